@@ -1,0 +1,10 @@
+# Libraries that the project calls; docs/ARCHITECTURE.md says what each is for.
+find_package(PkgConfig REQUIRED)
+find_package(CLI11 REQUIRED)
+find_package(fmt REQUIRED)
+find_package(ICU 72 REQUIRED COMPONENTS uc i18n)
+find_package(PNG REQUIRED)
+find_package(Threads REQUIRED)
+find_package(nlohmann_json REQUIRED)
+pkg_check_modules(lcms2 REQUIRED IMPORTED_TARGET lcms2)
+pkg_check_modules(libplist REQUIRED IMPORTED_TARGET libplist-2.0)

@@ -1,0 +1,64 @@
+# The rules every target of the project follows, and one function a kind of target.
+
+# Warnings and standard, for everything that is compiled here.
+add_library(tintra_rules INTERFACE)
+target_compile_features(tintra_rules INTERFACE cxx_std_20)
+target_include_directories(tintra_rules INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(
+    tintra_rules
+    INTERFACE -Wall
+              -Wextra
+              -Wpedantic
+              -Wconversion
+              -Wshadow
+              -Werror
+              # A fused multiply-add rounds once instead of twice: nearest names and pinned
+              # figures would differ between machines.
+              -ffp-contract=off)
+
+# What the preset adds to the product and its tests, but not to programs that run at build time.
+set(TINTRA_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize= takes them")
+add_library(tintra_options INTERFACE)
+target_link_libraries(tintra_options INTERFACE tintra_rules)
+if(TINTRA_SANITIZE)
+    target_compile_options(tintra_options INTERFACE -fsanitize=${TINTRA_SANITIZE}
+                                                    -fno-sanitize-recover=all
+                                                    -fno-omit-frame-pointer)
+    target_link_options(tintra_options INTERFACE -fsanitize=${TINTRA_SANITIZE})
+endif()
+
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+
+# tintra_library(NAME LIBRARY...): one library a folder, from every source file below it.
+function(tintra_library name)
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    add_library(tintra_${name} STATIC ${sources})
+    add_library(Tintra::${name} ALIAS tintra_${name})
+    target_link_libraries(tintra_${name} PUBLIC tintra_options ${ARGN})
+endfunction()
+
+# tintra_test(NAME LIBRARY...): one test program a folder; each of its cases is a CTest test.
+function(tintra_test name)
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    add_executable(tintra_${name}_tests ${sources})
+    target_link_libraries(tintra_${name}_tests PRIVATE tintra_options ${ARGN} GTest::gtest
+                                                       GTest::gmock GTest::gtest_main)
+    gtest_discover_tests(tintra_${name}_tests TEST_PREFIX "${name}: " DISCOVERY_MODE PRE_TEST
+                                              PROPERTIES TIMEOUT 300)
+endfunction()
+
+# tintra_fuzz_target(NAME LIBRARY...): fuzz/NAME.cpp; its seeds lie in fuzz/seeds/NAME.
+function(tintra_fuzz_target name)
+    add_executable(fuzz_${name} ${name}.cpp)
+    target_link_libraries(fuzz_${name} PRIVATE tintra_options ${ARGN})
+    target_link_options(fuzz_${name} PRIVATE -fsanitize=fuzzer)
+endfunction()
+
+# tintra_benchmark(NAME LIBRARY...): benchmarks/NAME.cpp.
+function(tintra_benchmark name)
+    add_executable(bench_${name} ${name}.cpp)
+    target_link_libraries(bench_${name} PRIVATE tintra_options ${ARGN} benchmark::benchmark
+                                                benchmark::benchmark_main)
+endfunction()

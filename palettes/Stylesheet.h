@@ -1,0 +1,45 @@
+#pragma once
+
+#include "palettes/Swatch.h"
+
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Colours out of CSS, SCSS, Sass and Less. Any text is safe; any thread may read.
+
+namespace tintra::Stylesheet {
+
+/// "css", "scss", "sass", "less".
+std::span<const std::string_view> extensions();
+
+/// Whether a text is a stylesheet rather than lines of colours: it holds both braces, or a line
+/// begins with the declaration of a custom property or a preprocessor variable.
+bool looksLikeStylesheet(std::string_view text);
+
+/// The colours of every declaration in reading order, each identity once; a colour that a variable
+/// holds is named after the first one.
+std::vector<PaletteFile::Swatch> read(std::string_view text);
+
+/// Whether the Library lists the file as a palette: at most a million bytes, not minified, and a
+/// variable holds a colour. The verdict is kept with the file's modification date.
+bool isPalette(const std::filesystem::path& file);
+
+/// A variable's name made readable: "--brand-primaryDark" is "Brand Primary Dark".
+std::string displayName(std::string_view variableName);
+
+/// The value of a CSS colour keyword in any letter case (CSS Color 4, without transparent and
+/// currentcolor).
+std::optional<WashColor> named(std::string_view keyword);
+
+/// The colours of a declaration's value, in reading order.
+std::vector<WashColor> colours(std::string_view value);
+
+/// One CSS colour: a whole value that is a hex code of 3, 4, 6 or 8 digits, a colour function or a
+/// colour keyword.
+std::optional<WashColor> cssColour(std::string_view value);
+
+} // namespace tintra::Stylesheet

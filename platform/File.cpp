@@ -1,0 +1,150 @@
+#include "platform/File.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <fmt/format.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <system_error>
+#include <utility>
+
+namespace tintra {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+FileError lastError() { return {std::generic_category().message(errno)}; }
+
+/// A file descriptor that closes itself.
+class Descriptor {
+public:
+    explicit Descriptor(int number) : number_(number) {}
+    ~Descriptor() {
+        if (number_ >= 0) ::close(number_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    int number() const { return number_; }
+    bool isOpen() const { return number_ >= 0; }
+    /// Closing can be what reports a full disk.
+    bool close() { return ::close(std::exchange(number_, -1)) == 0; }
+
+private:
+    int number_;
+};
+
+/// A file beside the one to be written that removes itself unless it was renamed.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const fs::path& target)
+        : path_(freshName(target)),
+          descriptor_(::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)) {}
+    ~TemporaryFile() {
+        if (!renamed_ && created_) ::unlink(path_.c_str());
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    bool isOpen() const { return created_; }
+
+    bool write(ByteView content) {
+        while (!content.empty()) {
+            const auto written = ::write(descriptor_.number(), content.data(), content.size());
+            if (written < 0 && errno == EINTR) continue;
+            if (written < 0) return false;
+            content = content.subspan(static_cast<std::size_t>(written));
+        }
+        return true;
+    }
+
+    bool takePermissions(const fs::path& target) {
+        struct stat status {};
+        if (::stat(target.c_str(), &status) != 0) return true; // a new file has the usual ones
+        return ::fchmod(descriptor_.number(), status.st_mode & 07777U) == 0;
+    }
+
+    bool finish() { return ::fsync(descriptor_.number()) == 0 && descriptor_.close(); }
+
+    bool rename(const fs::path& target, Existing existing) {
+        // A hard link fails where a name is taken, also when it was taken only just now.
+        const bool refuse = existing == Existing::refuse;
+        if (refuse && ::link(path_.c_str(), target.c_str()) == 0) return true;
+        if (refuse && (errno == EEXIST || fs::exists(target))) {
+            errno = EEXIST;
+            return false;
+        }
+        renamed_ = ::rename(path_.c_str(), target.c_str()) == 0;
+        return renamed_;
+    }
+
+private:
+    static std::string freshName(const fs::path& target) {
+        static std::atomic<unsigned> count = 0;
+        const auto name = fmt::format(".tintra-{}-{}", ::getpid(), ++count);
+        return (target.parent_path() / name).string();
+    }
+
+    std::string path_;
+    Descriptor descriptor_;
+    bool created_ = descriptor_.isOpen();
+    bool renamed_ = false;
+};
+
+fs::path throughLinks(const fs::path& path) {
+    std::error_code failed;
+    if (!fs::is_symlink(fs::symlink_status(path, failed))) return path;
+    auto target = fs::weakly_canonical(path, failed);
+    return failed ? path : target;
+}
+
+std::optional<FileError> readInto(Bytes& content, int descriptor, std::uint64_t largest) {
+    constexpr std::size_t kChunk = 1U << 16U;
+    for (std::size_t size = 0;;) {
+        if (content.size() - size < kChunk) content.resize(content.size() + content.size() / 2 + kChunk);
+        const auto got = ::read(descriptor, content.data() + size, content.size() - size);
+        if (got < 0 && errno == EINTR) continue;
+        if (got < 0) return lastError();
+        size += static_cast<std::size_t>(got);
+        if (size > largest) return FileError{"the file is too large"};
+        if (got == 0) {
+            content.resize(size);
+            return std::nullopt;
+        }
+    }
+}
+
+} // namespace
+
+std::variant<Bytes, FileError> readFile(const fs::path& path, std::uint64_t largest) {
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!file.isOpen()) return lastError();
+    struct stat status {};
+    if (::fstat(file.number(), &status) != 0) return lastError();
+    if (S_ISDIR(status.st_mode)) return FileError{"Is a directory"};
+    const auto size = static_cast<std::uint64_t>(status.st_size);
+    if (size > largest) return FileError{"the file is too large"};
+    Bytes content;
+    content.reserve(size + 1);
+    if (auto failed = readInto(content, file.number(), largest)) return *failed;
+    return content;
+}
+
+std::optional<FileError> writeFile(const fs::path& path, ByteView content, Existing existing) {
+    if (existing == Existing::refuse && fs::exists(fs::symlink_status(path)))
+        return FileError{std::generic_category().message(EEXIST)};
+    const auto target = throughLinks(path);
+    std::error_code ignored;
+    if (fs::is_directory(target, ignored)) return FileError{"Is a directory"};
+    TemporaryFile file(target.has_parent_path() ? target : fs::path(".") / target);
+    if (!file.isOpen()) return lastError();
+    const bool written = file.write(content) && file.takePermissions(target) && file.finish() &&
+                         file.rename(target, existing);
+    if (!written) return lastError();
+    return std::nullopt;
+}
+
+} // namespace tintra

@@ -1,0 +1,48 @@
+#include "platform/Locations.h"
+
+#include <cstdlib>
+
+#include <string_view>
+#include <system_error>
+
+namespace tintra {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string_view environment(const char* name) {
+    const char* value = std::getenv(name); // NOLINT(concurrency-mt-unsafe): nobody sets it
+    return value == nullptr ? std::string_view() : std::string_view(value);
+}
+
+/// The standard tells programs to pass over relative folders.
+void addAbsolute(std::vector<fs::path>& folders, const fs::path& folder) {
+    if (folder.is_absolute()) folders.push_back(folder);
+}
+
+} // namespace
+
+fs::path homeFolder() { return {environment("HOME")}; }
+
+std::vector<fs::path> dataFolders() {
+    std::vector<fs::path> folders;
+    const auto own = environment("XDG_DATA_HOME");
+    addAbsolute(folders, own.empty() ? homeFolder() / ".local/share" : fs::path(own));
+    auto system = environment("XDG_DATA_DIRS");
+    if (system.empty()) system = "/usr/local/share:/usr/share";
+    while (!system.empty()) {
+        const auto colon = std::min(system.find(':'), system.size());
+        addAbsolute(folders, system.substr(0, colon));
+        system.remove_prefix(std::min(colon + 1, system.size()));
+    }
+    return folders;
+}
+
+fs::path shippedFile(const fs::path& name) {
+    std::error_code failed;
+    const auto program = fs::read_symlink("/proc/self/exe", failed);
+    return program.parent_path().parent_path() / "share/tintra" / name;
+}
+
+} // namespace tintra

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+namespace tintra {
+
+/// The user's home folder; empty when the system names none.
+std::filesystem::path homeFolder();
+
+/// The user's and then the system's folders for data (XDG Base Directory: XDG_DATA_HOME, then
+/// XDG_DATA_DIRS), absolute ones only, most preferred first.
+std::vector<std::filesystem::path> dataFolders();
+
+/// A file shipped with the program, in `share/tintra` beside the folder of the running program,
+/// whether it is installed or stands in a build folder.
+std::filesystem::path shippedFile(const std::filesystem::path& name);
+
+} // namespace tintra
