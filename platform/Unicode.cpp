@@ -189,6 +189,23 @@ std::string withoutMarks(std::string_view text) {
     return out;
 }
 
+std::string otherThanWordsTo(char other, std::string_view text) {
+    std::string out;
+    out.reserve(text.size());
+    bool kept = false;
+    for (std::size_t at = 0; at < text.size();) {
+        const auto begin = at;
+        const auto category = U_MASK(u_charType(next(text, at)));
+        const bool mark = (category & U_GC_M_MASK) != 0 && begin > 0;
+        if (!mark) kept = (category & (U_GC_L_MASK | U_GC_N_MASK)) != 0;
+        if (kept)
+            out.append(text.substr(begin, at - begin));
+        else if (!mark)
+            out.push_back(other);
+    }
+    return out;
+}
+
 bool sortsBefore(std::string_view a, std::string_view b) {
     UErrorCode status = U_ZERO_ERROR;
     const auto* collator = numberAware();

@@ -39,6 +39,10 @@ std::string controlsToSpaces(std::string_view text);
 /// Compatibility decomposition (NFKD) without its combining marks: "Ünïcode" gives "Unicode".
 std::string withoutMarks(std::string_view text);
 
+/// Every character that is neither a letter nor a number becomes `other`, one for one. Combining
+/// marks belong to the character before them and share its fate.
+std::string otherThanWordsTo(char other, std::string_view text);
+
 /// Whether `a` sorts before `b` as a file browser sorts names: by the root collation, runs of
 /// digits by their number.
 bool sortsBefore(std::string_view a, std::string_view b);
