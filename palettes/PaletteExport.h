@@ -53,14 +53,19 @@ struct Entry {
 };
 
 /// The colours with their given names (`names` in step with `colors`, absent or empty for none; a
-/// shorter list leaves the rest unnamed), else their nearest ones, made unique in order.
+/// shorter list leaves the rest unnamed), else their nearest ones, made unique in order: a name
+/// that is taken gets the first number from 2 upward that makes it new.
 std::vector<Entry> entries(std::span<const WashColor> colors,
                            std::span<const std::optional<std::string>> names);
 
-/// The file of a palette called `name`; nothing when there is nothing to write.
+/// The file of a palette called `name`; nothing when there are no colours or the writer fails.
 std::optional<Bytes> data(ExportFormat format, std::span<const WashColor> colors,
                           std::span<const std::optional<std::string>> names, std::string_view name,
                           const FormatOptions& options);
+
+// The writers. Hex codes and 0...255 numbers of the text formats follow the RGB space selected in
+// ColorProfiles, as in code; GPL and the formats of bytes hold sRGB. Any bytes may stand in a name:
+// what a language forbids or reads as its own is escaped, replaced or made a blank.
 
 std::string json(std::string_view name, std::span<const Entry> entries,
                  const FormatOptions& options);
@@ -79,11 +84,14 @@ std::string sass(std::string_view name, std::span<const Entry> entries,
                  const FormatOptions& options);
 std::string less(std::string_view name, std::span<const Entry> entries,
                  const FormatOptions& options);
+/// Without alpha. A name is cut to the 65,534 UTF-16 code units that the format can count.
 Bytes ase(std::span<const Entry> entries);
 std::string gpl(std::string_view name, std::span<const Entry> entries);
 /// Nothing when the list cannot be built.
 std::optional<Bytes> clr(std::string_view name, std::span<const Entry> entries);
-/// Nothing when there are no entries or the picture cannot be encoded.
+/// Squares of 80 pixels, side by side as in the SVG, up to 256 in a row; more begin a further row
+/// (empty places are transparent), and beyond 4,096 the squares shrink, so that the picture keeps
+/// below 27 million pixels. Nothing when there are no entries or the picture cannot be encoded.
 std::optional<Bytes> png(std::span<const Entry> entries);
 
 } // namespace PaletteExport

@@ -1,0 +1,140 @@
+#include "palettes/PaletteExport.h"
+#include "platform/Unicode.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tintra {
+
+namespace {
+
+using Entries = std::span<const PaletteExport::Entry>;
+using Writer = std::optional<Bytes> (*)(std::string_view name, Entries entries,
+                                        const FormatOptions& options);
+
+enum class Alpha { kept, dropped };
+
+struct FormatRow {
+    ExportFormat format;
+    std::string_view raw, title, extension;
+    Alpha alpha;
+    Writer write;
+};
+
+Bytes bytesOf(std::string_view text) {
+    const auto view = asBytes(text);
+    return {view.begin(), view.end()};
+}
+
+template <auto kWriter>
+std::optional<Bytes> text(std::string_view name, Entries entries, const FormatOptions& options) {
+    return bytesOf(kWriter(name, entries, options));
+}
+
+std::optional<Bytes> svgBytes(std::string_view /*name*/, Entries entries,
+                              const FormatOptions& options) {
+    return bytesOf(PaletteExport::svg(entries, options));
+}
+
+std::optional<Bytes> aseBytes(std::string_view /*name*/, Entries entries,
+                              const FormatOptions& /*options*/) {
+    return PaletteExport::ase(entries);
+}
+
+std::optional<Bytes> clrBytes(std::string_view name, Entries entries,
+                              const FormatOptions& /*options*/) {
+    return PaletteExport::clr(name, entries);
+}
+
+std::optional<Bytes> gplBytes(std::string_view name, Entries entries,
+                              const FormatOptions& /*options*/) {
+    return bytesOf(PaletteExport::gpl(name, entries));
+}
+
+std::optional<Bytes> pngBytes(std::string_view /*name*/, Entries entries,
+                              const FormatOptions& /*options*/) {
+    return PaletteExport::png(entries);
+}
+
+using enum ExportFormat;
+
+// clang-format off
+constexpr std::array kFormats{
+    FormatRow{json,     "json",     "JSON",                  "json", Alpha::kept,    text<PaletteExport::json>},
+    FormatRow{xml,      "xml",      "XML",                   "xml",  Alpha::kept,    text<PaletteExport::xml>},
+    FormatRow{html,     "html",     "HTML",                  "html", Alpha::kept,    text<PaletteExport::html>},
+    FormatRow{markdown, "markdown", "Markdown",              "md",   Alpha::kept,    text<PaletteExport::markdown>},
+    FormatRow{svg,      "svg",      "SVG",                   "svg",  Alpha::kept,    svgBytes},
+    FormatRow{css,      "css",      "CSS",                   "css",  Alpha::kept,    text<PaletteExport::css>},
+    FormatRow{scss,     "scss",     "SCSS",                  "scss", Alpha::kept,    text<PaletteExport::scss>},
+    FormatRow{sass,     "sass",     "Sass",                  "sass", Alpha::kept,    text<PaletteExport::sass>},
+    FormatRow{less,     "less",     "Less",                  "less", Alpha::kept,    text<PaletteExport::less>},
+    FormatRow{ase,      "ase",      "Adobe Swatch Exchange", "ase",  Alpha::dropped, aseBytes},
+    FormatRow{clr,      "clr",      "Apple Colour List",     "clr",  Alpha::kept,    clrBytes},
+    FormatRow{gpl,      "gpl",      "GIMP Palette",          "gpl",  Alpha::dropped, gplBytes},
+    FormatRow{png,      "png",      "PNG Image",             "png",  Alpha::kept,    pngBytes},
+};
+// clang-format on
+
+constexpr auto kOrder = [] {
+    std::array<ExportFormat, kFormats.size()> order{};
+    for (std::size_t at = 0; at < order.size(); ++at)
+        order[at] = kFormats[at].format;
+    return order;
+}();
+
+constexpr bool rowsFollowTheEnum() {
+    for (std::size_t at = 0; at < kOrder.size(); ++at)
+        if (static_cast<std::size_t>(kOrder[at]) != at) return false;
+    return true;
+}
+static_assert(rowsFollowTheEnum());
+
+const FormatRow& rowOf(ExportFormat format) {
+    return kFormats.at(static_cast<std::size_t>(format));
+}
+
+std::optional<ExportFormat> formatWith(std::string_view FormatRow::*field, std::string_view text) {
+    const auto* found = std::find_if(kFormats.begin(), kFormats.end(),
+                                     [&](const FormatRow& row) { return row.*field == text; });
+    return found == kFormats.end() ? std::nullopt : std::optional(found->format);
+}
+
+} // namespace
+
+std::string_view rawValue(ExportFormat format) {
+    return rowOf(format).raw;
+}
+
+std::string_view title(ExportFormat format) {
+    return rowOf(format).title;
+}
+
+std::string_view fileExtension(ExportFormat format) {
+    return rowOf(format).extension;
+}
+
+bool holdsAlpha(ExportFormat format) {
+    return rowOf(format).alpha == Alpha::kept;
+}
+
+std::span<const ExportFormat> allExportFormats() {
+    return kOrder;
+}
+
+std::optional<ExportFormat> exportFormat(std::string_view raw) {
+    return formatWith(&FormatRow::raw, raw);
+}
+
+std::optional<ExportFormat> exportFormatForExtension(std::string_view extension) {
+    return formatWith(&FormatRow::extension, asciiLowerCased(extension));
+}
+
+std::optional<Bytes> PaletteExport::data(ExportFormat format, std::span<const WashColor> colors,
+                                         std::span<const std::optional<std::string>> names,
+                                         std::string_view name, const FormatOptions& options) {
+    if (colors.empty()) return std::nullopt;
+    return rowOf(format).write(name, entries(colors, names), options);
+}
+
+} // namespace tintra
