@@ -1,3 +1,4 @@
+#include "colour/CaseTable.h"
 #include "palettes/PaletteExport.h"
 #include "platform/Unicode.h"
 
@@ -15,7 +16,7 @@ using Writer = std::optional<Bytes> (*)(std::string_view name, Entries entries,
 enum class Alpha { kept, dropped };
 
 struct FormatRow {
-    ExportFormat format;
+    ExportFormat value;
     std::string_view raw, title, extension;
     Alpha alpha;
     Writer write;
@@ -76,65 +77,48 @@ constexpr std::array kFormats{
 };
 // clang-format on
 
-constexpr auto kOrder = [] {
-    std::array<ExportFormat, kFormats.size()> order{};
-    for (std::size_t at = 0; at < order.size(); ++at)
-        order[at] = kFormats[at].format;
-    return order;
-}();
-
-constexpr bool rowsFollowTheEnum() {
-    for (std::size_t at = 0; at < kOrder.size(); ++at)
-        if (static_cast<std::size_t>(kOrder[at]) != at) return false;
-    return true;
-}
-static_assert(rowsFollowTheEnum());
-
-const FormatRow& rowOf(ExportFormat format) {
-    return kFormats.at(static_cast<std::size_t>(format));
-}
-
-std::optional<ExportFormat> formatWith(std::string_view FormatRow::*field, std::string_view text) {
-    const auto* found = std::find_if(kFormats.begin(), kFormats.end(),
-                                     [&](const FormatRow& row) { return row.*field == text; });
-    return found == kFormats.end() ? std::nullopt : std::optional(found->format);
-}
+static_assert(inCaseOrder(kFormats));
+constexpr auto kCases = casesOf(kFormats);
 
 } // namespace
 
 std::string_view rawValue(ExportFormat format) {
-    return rowOf(format).raw;
+    return rowOf(kFormats, format).raw;
 }
 
 std::string_view title(ExportFormat format) {
-    return rowOf(format).title;
+    return rowOf(kFormats, format).title;
 }
 
 std::string_view fileExtension(ExportFormat format) {
-    return rowOf(format).extension;
+    return rowOf(kFormats, format).extension;
 }
 
 bool holdsAlpha(ExportFormat format) {
-    return rowOf(format).alpha == Alpha::kept;
+    return rowOf(kFormats, format).alpha == Alpha::kept;
 }
 
 std::span<const ExportFormat> allExportFormats() {
-    return kOrder;
+    return kCases;
 }
 
 std::optional<ExportFormat> exportFormat(std::string_view raw) {
-    return formatWith(&FormatRow::raw, raw);
+    return caseOf(kFormats, raw);
 }
 
 std::optional<ExportFormat> exportFormatForExtension(std::string_view extension) {
-    return formatWith(&FormatRow::extension, asciiLowerCased(extension));
+    const auto lowerCased = asciiLowerCased(extension);
+    const auto* found = std::find_if(kFormats.begin(), kFormats.end(), [&](const FormatRow& row) {
+        return row.extension == lowerCased;
+    });
+    return found == kFormats.end() ? std::nullopt : std::optional(found->value);
 }
 
 std::optional<Bytes> PaletteExport::data(ExportFormat format, std::span<const WashColor> colors,
                                          std::span<const std::optional<std::string>> names,
                                          std::string_view name, const FormatOptions& options) {
     if (colors.empty()) return std::nullopt;
-    return rowOf(format).write(name, entries(colors, names), options);
+    return rowOf(kFormats, format).write(name, entries(colors, names), options);
 }
 
 } // namespace tintra
