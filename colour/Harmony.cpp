@@ -1,5 +1,6 @@
 #include "colour/Harmony.h"
 
+#include "colour/ChromaFit.h"
 #include "colour/Clamp.h"
 
 #include <algorithm>
@@ -10,27 +11,8 @@ namespace tintra::Harmony {
 
 namespace {
 
-/// How far linear light may leave 0...1 and still count as sRGB.
-constexpr double kGamutTolerance = 0.0001;
-
-bool inGamut(const Rgb& linear) {
-    const auto inside = [](double v) { return v >= -kGamutTolerance && v <= 1 + kGamutTolerance; };
-    return inside(linear.r) && inside(linear.g) && inside(linear.b);
-}
-
-/// The largest chroma up to C that lies in sRGB at this lightness and hue, to 28 halvings.
-double fittedChroma(double L, double C, double cosine, double sine) {
-    const auto fits = [&](double chroma) {
-        return inGamut(linearFromOklab({L, chroma * cosine, chroma * sine}));
-    };
-    if (fits(C)) return C;
-    double low = 0, high = C;
-    for (int round = 0; round < 28; ++round) {
-        const double mid = (low + high) / 2;
-        (fits(mid) ? low : high) = mid;
-    }
-    return low;
-}
+/// Tighter than where only whole bytes come of the colour.
+constexpr GamutFit kFit{.tolerance = 0.0001, .halvings = 28};
 
 /// The colour at share t on the straight line between two.
 WashColor blend(const WashColor& from, const WashColor& to, double t, BlendSpace space) {
@@ -84,9 +66,8 @@ WashColor relit(const WashColor& base, const Oklch& lch, const ScalePlace& place
 } // namespace
 
 WashColor color(double L, double C, double h, double alpha) {
-    const double cosine = std::cos(h), sine = std::sin(h);
-    const double chroma = fittedChroma(L, C, cosine, sine);
-    return WashColor::fromOklab({L, chroma * cosine, chroma * sine}, alpha);
+    const auto hue = HueDirection::of(h);
+    return WashColor::fromOklab(hue.at(L, fittedChroma(L, C, hue, kFit)), alpha);
 }
 
 WashColor rotate(const WashColor& colour, double degrees, BlendSpace space) {
