@@ -46,7 +46,7 @@ Degrees analogousOffsets(int count) {
     const int n = std::max(count, 3);
     const double step = std::min(180.0 / (n - 1), 30.0);
     Degrees found(static_cast<std::size_t>(n));
-    double place = -((n - 1) / 2);
+    int place = -((n - 1) / 2);
     for (double& offset : found)
         offset = step * place++;
     return found;
