@@ -17,6 +17,9 @@ struct FormatOptions {
     /// a decimal.
     std::string number(double value, std::string_view over) const;
 
+    /// The number as a decimal whether or not fractions are wanted: alpha is never a fraction.
+    std::string decimal(double value) const;
+
     bool operator==(const FormatOptions&) const = default;
 };
 
