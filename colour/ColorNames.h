@@ -1,12 +1,14 @@
 #pragma once
 
+#include "colour/NameList.h"
 #include "colour/WashColor.h"
 
 #include <filesystem>
 #include <mutex>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
-#include <vector>
 
 namespace tintra {
 
@@ -29,17 +31,13 @@ public:
     void loadIfNeeded();
 
 private:
-    /// The entries in the list's order, a component an array, so that a scan streams through them.
-    struct Entries {
-        std::vector<double> L, a, b;
-        std::vector<std::string> names;
-    };
+    std::optional<std::string_view> cached(const WashColor& key);
 
     std::filesystem::path list_;
-    std::mutex lock_;
+    std::mutex lock_; ///< over the cache and the loading
     bool loaded_ = false;
-    Entries entries_; ///< never changes once `loaded_`
-    std::unordered_map<WashColor, std::string> cache_;
+    NameList names_; ///< never changes once `loaded_`, so that it is scanned without the lock
+    std::unordered_map<WashColor, std::string_view> cache_; ///< by rounded colour, alpha 1
 };
 
 } // namespace tintra

@@ -26,13 +26,6 @@ void appendHexByte(std::string& text, int byte) {
     text.push_back(kDigits[static_cast<std::size_t>(byte) & 0xFU]);
 }
 
-int hexDigit(char digit) {
-    if (digit >= '0' && digit <= '9') return digit - '0';
-    if (digit >= 'a' && digit <= 'f') return digit - 'a' + 10;
-    if (digit >= 'A' && digit <= 'F') return digit - 'A' + 10;
-    return -1;
-}
-
 std::optional<std::uint32_t> hexNumber(std::string_view digits) {
     if (digits.empty() || digits.size() > 8) return std::nullopt;
     std::uint32_t value = 0;
