@@ -1,0 +1,93 @@
+#include "palettes/Stylesheet.h"
+
+#include "palettes/Characters.h"
+#include "palettes/Lines.h"
+#include "palettes/stylesheet/ColourFunctions.h"
+#include "palettes/stylesheet/Comments.h"
+#include "palettes/stylesheet/Declarations.h"
+#include "palettes/stylesheet/ValueReader.h"
+#include "palettes/stylesheet/VariableNames.h"
+#include "platform/Unicode.h"
+
+#include <array>
+#include <unordered_set>
+
+namespace tintra::Stylesheet {
+
+namespace {
+
+constexpr std::array<std::string_view, 4> kExtensions{"css", "scss", "sass", "less"};
+
+/// Collects the colours of declarations, each identity once.
+class SwatchList {
+public:
+    void addFrom(std::string_view declaration) {
+        const auto colon = declaration.find(':');
+        if (colon == std::string_view::npos) return;
+        const auto& colours = values_.colours(declaration.substr(colon + 1));
+        if (colours.empty()) return;
+        const auto variable = trimmed(declaration.substr(0, colon));
+        std::optional<std::string> name;
+        if (stylesheet::isVariableName(variable)) name = displayName(variable);
+        for (const auto& colour : colours)
+            if (seen_.insert(colour.identity()).second) swatches_.push_back({colour, name});
+    }
+
+    std::vector<PaletteFile::Swatch> take() { return std::move(swatches_); }
+
+private:
+    stylesheet::ValueReader values_;
+    std::unordered_set<std::string> seen_;
+    std::vector<PaletteFile::Swatch> swatches_;
+};
+
+} // namespace
+
+std::span<const std::string_view> extensions() {
+    return kExtensions;
+}
+
+// A scan with the meaning of (?m)^\s*(--|\$|@)[\w-]+\s*: which itself takes quadratic time on empty
+// lines.
+bool looksLikeStylesheet(std::string_view text) {
+    if (text.find('{') != std::string_view::npos && text.find('}') != std::string_view::npos)
+        return true;
+    for (auto rest = text; !rest.empty();) {
+        const auto begin = text.size() - rest.size();
+        const auto line = takeLine(rest);
+        const auto blanks = afterWhiteSpace(line, 0);
+        if (blanks < line.size() && stylesheet::declaresVariableAt(text, begin + blanks))
+            return true;
+    }
+    return false;
+}
+
+std::vector<PaletteFile::Swatch> read(std::string_view text) {
+    const auto source = stylesheet::withoutComments(text);
+    SwatchList swatches;
+    for (const auto& declaration : stylesheet::declarations(source))
+        if (!declaration.isSelector) swatches.addFrom(declaration.text);
+    return swatches.take();
+}
+
+std::vector<WashColor> colours(std::string_view value) {
+    return stylesheet::ValueReader().colours(value);
+}
+
+std::optional<WashColor> cssColour(std::string_view value) {
+    const auto text = trimmed(value);
+    if (text.starts_with('#')) {
+        const auto digits = text.substr(1);
+        return digits.find_first_not_of("0123456789abcdefABCDEF") == std::string_view::npos
+                   ? stylesheet::hexColour(digits)
+                   : std::nullopt;
+    }
+    const auto open = text.find('(');
+    if (open == std::string_view::npos) return named(text);
+    if (text.find_first_of("()", open + 1) != text.size() - 1 || !text.ends_with(')'))
+        return std::nullopt;
+    return stylesheet::functionColour(text.substr(0, open),
+                                      text.substr(open + 1, text.size() - open - 2));
+}
+
+} // namespace tintra::Stylesheet
