@@ -4,6 +4,7 @@
 #include "platform/ByteReader.h"
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <optional>
 #include <span>
@@ -20,15 +21,18 @@ namespace tintra::PaletteFile {
 using Reader = ByteReader;
 
 /// What a reader passed over, a count a reason; a reason is a short phrase such as
-/// "unknown colour model “Gray”". Reasons of one file are bounded in number.
+/// "unknown colour model “Gray”". Reasons of one file are bounded in number: what comes after the
+/// first ones counts as `kOther`.
 class LeftOut {
 public:
-    void add(std::string reason);
-    const std::map<std::string, int>& counts() const { return counts_; }
+    static constexpr std::string_view kOther = "other reasons";
+
+    void add(std::string_view reason, int count = 1);
+    const std::map<std::string, int, std::less<>>& counts() const { return counts_; }
     bool empty() const { return counts_.empty(); }
 
 private:
-    std::map<std::string, int> counts_;
+    std::map<std::string, int, std::less<>> counts_;
 };
 
 /// The kinds of files that are read.
@@ -41,7 +45,7 @@ std::span<const std::string_view> readableExtensions();
 std::optional<Kind> kindOf(const std::filesystem::path& file);
 
 /// The entry point: the extension alone chooses the reader. Nothing when the file cannot be loaded
-/// or gives no swatch.
+/// or gives no swatch; files above 64 MB are not loaded.
 std::optional<std::vector<Swatch>> readNamed(const std::filesystem::path& file,
                                              LeftOut* leftOut = nullptr);
 

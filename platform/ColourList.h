@@ -20,17 +20,21 @@ struct ColourListEntry {
     PlatformColour colour;
 };
 
-/// What a list held: its readable entries in list order, and how many had no usable colour.
+/// What a list held: its readable entries in list order, how many had no usable colour or key, and
+/// how many the list announces but does not hold.
 struct ColourList {
     std::vector<ColourListEntry> entries;
     int unusable = 0;
+    int missing = 0;
 };
 
-/// Nothing when the bytes are no colour list. Any bytes are safe; cost is linear in their size.
+/// Nothing when the bytes are no colour list, or more than 16 MB. Any bytes are safe; cost is
+/// linear in their size. Inks of no particular profile are given in `ColourSpace::deviceCMYK`.
 std::optional<ColourList> readColourList(ByteView data);
 
-/// A list of sRGB colours (extended range allowed) as a binary keyed archive. Keys must be unique.
-/// Nothing when the archive cannot be built.
+/// A list of sRGB colours (extended range allowed) as a binary keyed archive; colours of other
+/// spaces are converted. Keys must be unique. Nothing when a colour has no finite sRGB value or the
+/// archive cannot be built.
 std::optional<Bytes> writeColourList(std::span<const ColourListEntry> entries);
 
 } // namespace tintra
