@@ -31,9 +31,11 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 
-# tintra_library(NAME LIBRARY...): one library a folder, from every source file below it.
+# tintra_library(NAME LIBRARY...): one library a folder, from every source file below it but those
+# of programs, which stand in a subfolder of that name.
 function(tintra_library name)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    list(FILTER sources EXCLUDE REGEX "/program/")
     add_library(tintra_${name} STATIC ${sources})
     add_library(Tintra::${name} ALIAS tintra_${name})
     target_link_libraries(tintra_${name} PUBLIC tintra_options ${ARGN})
