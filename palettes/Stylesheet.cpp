@@ -18,6 +18,12 @@ namespace {
 
 constexpr std::array<std::string_view, 4> kExtensions{"css", "scss", "sass", "less"};
 
+/// The name of the swatches that a property holds; only a variable gives one.
+std::optional<std::string> nameOf(std::string_view property) {
+    if (!stylesheet::isVariableName(property)) return std::nullopt;
+    return displayName(property);
+}
+
 /// Collects the colours of declarations, each identity once.
 class SwatchList {
 public:
@@ -25,12 +31,10 @@ public:
         const auto colon = declaration.find(':');
         if (colon == std::string_view::npos) return;
         const auto& colours = values_.colours(declaration.substr(colon + 1));
-        if (colours.empty()) return;
-        const auto variable = trimmed(declaration.substr(0, colon));
-        std::optional<std::string> name;
-        if (stylesheet::isVariableName(variable)) name = displayName(variable);
+        const auto property = trimmed(declaration.substr(0, colon));
         for (const auto& colour : colours)
-            if (seen_.insert(colour.identity()).second) swatches_.push_back({colour, name});
+            if (seen_.insert(colour.identity()).second)
+                swatches_.push_back({colour, nameOf(property)});
     }
 
     std::vector<PaletteFile::Swatch> take() { return std::move(swatches_); }

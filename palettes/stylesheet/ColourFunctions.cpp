@@ -6,6 +6,7 @@
 #include "platform/Number.h"
 #include "platform/Unicode.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
@@ -31,14 +32,16 @@ struct Components {
     double alpha() const { return count > 3 ? clampedUnit(values[3].over(1)) : 1; }
 };
 
-constexpr std::string_view kSeparators = " \t\n\r\f,/";
+bool isSeparator(char c) {
+    return c == ' ' || c == ',' || c == '/' || c == '\t' || c == '\n' || c == '\r' || c == '\f';
+}
 
 /// Takes the first piece off the text; empty when there is none.
 std::string_view takePiece(std::string_view& text) {
-    const auto begin = std::min(text.find_first_not_of(kSeparators), text.size());
-    const auto end = std::min(text.find_first_of(kSeparators, begin), text.size());
-    const auto piece = text.substr(begin, end - begin);
-    text.remove_prefix(end);
+    const auto begin = std::ranges::find_if_not(text, isSeparator);
+    const auto end = std::find_if(begin, text.end(), isSeparator);
+    const std::string_view piece(begin, end);
+    text = {end, text.end()};
     return piece;
 }
 

@@ -31,6 +31,10 @@ std::string group(const icu::UnicodeString& units, const Finder& finder, int num
     return text;
 }
 
+bool holds(std::string_view text, char c) {
+    return text.find(c) != std::string_view::npos;
+}
+
 bool isLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
@@ -53,15 +57,18 @@ const std::vector<WashColor>& ValueReader::colours(std::string_view value) {
     found_.clear();
     colours_.clear();
     if (value.size() > kLongestValue) return colours_;
-    const bool holdsCall = value.find('(') != std::string_view::npos;
-    const auto resolved = holdsCall ? withoutUnresolvable(value) : std::string(value);
-    if (holdsCall) findFunctions(unitsOf(resolved));
+    std::string kept;
+    if (holds(value, '(')) value = kept = withoutUnresolvable(value);
+    // Looking before searching saves the search of most values.
+    const bool mayCall = holds(value, '('), mayHex = holds(value, '#'),
+               mayWord = mayHoldWord(value);
+    if (!mayCall && !mayHex && !mayWord) return colours_;
+    auto units = unitsOf(value);
+    if (mayCall) findFunctions(units);
     // Quoted strings are prose and pictures: what looks like a colour in them seldom is one.
-    const bool quotes = resolved.find_first_of("\"'") != std::string::npos;
-    const auto plain = quotes ? withoutProse(resolved) : resolved;
-    const auto units = unitsOf(plain);
-    if (plain.find('#') != std::string::npos) findHex(units);
-    if (mayHoldWord(plain)) findWords(units);
+    if (holds(value, '"') || holds(value, '\'')) units = unitsOf(withoutProse(value));
+    if (mayHex) findHex(units);
+    if (mayWord) findWords(units);
     std::ranges::stable_sort(found_, {}, &Found::position);
     for (const auto& found : found_)
         colours_.push_back(found.colour);
