@@ -44,12 +44,6 @@ bool isPlain(std::string_view text) {
     return std::ranges::all_of(text, [](char c) { return c >= ' ' && c <= '~'; });
 }
 
-std::string_view withoutOuterBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 } // namespace
 
 void LeftOut::add(std::string_view reason, int count) {
@@ -94,21 +88,20 @@ std::optional<std::string> kept(const std::optional<std::string>& name) {
     return name ? keptText(*name) : std::nullopt;
 }
 
-std::optional<std::string> keptText(std::string_view text) {
-    if (!isPlain(text)) {
-        const auto spaced = controlsToSpaces(text);
-        return named(trimmed(spaced));
-    }
-    return named(withoutOuterBlanks(text));
+std::optional<std::string> keptText(std::string text) {
+    if (!isPlain(text)) return named(std::string(trimmed(controlsToSpaces(text))));
+    text.erase(text.find_last_not_of(' ') + 1);
+    text.erase(0, text.find_first_not_of(' '));
+    return named(std::move(text));
 }
 
-std::optional<std::string> named(std::string_view trimmedText) {
+std::optional<std::string> named(std::string trimmedText) {
     constexpr std::string_view kUnnamed = "untitled";
     if (trimmedText.empty()) return std::nullopt;
     // No other letter folds to one of these, so no text of another length can be equal.
     if (trimmedText.size() == kUnnamed.size() && asciiLowerCased(trimmedText) == kUnnamed)
         return std::nullopt;
-    return std::string(trimmedText);
+    return trimmedText;
 }
 
 } // namespace tintra::PaletteFile

@@ -7,6 +7,26 @@
 
 namespace tintra {
 
+namespace {
+
+/// UTF-16 of ASCII characters only, which most names are, without its trailing zero unit; nothing
+/// for any other text.
+std::optional<std::string> asciiFromUtf16(ByteView bytes, ByteOrder order) {
+    const std::size_t high = order == ByteOrder::bigEndian ? 0 : 1;
+    std::string text(bytes.size() / 2, '\0');
+    std::byte seen{};
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto low = bytes[2 * i + (1 - high)];
+        seen |= bytes[2 * i + high] | (low & std::byte{0x80});
+        text[i] = std::to_integer<char>(low);
+    }
+    if (seen != std::byte{}) return std::nullopt;
+    if (text.back() == '\0') text.pop_back();
+    return text;
+}
+
+} // namespace
+
 template <typename Unsigned> std::optional<Unsigned> ByteReader::unsignedInteger() {
     const auto bytes = take(sizeof(Unsigned));
     if (!bytes) return std::nullopt;
@@ -42,8 +62,11 @@ std::optional<ByteView> ByteReader::take(std::size_t count) {
 
 std::optional<std::string> ByteReader::utf16(std::size_t count) {
     if (count == 0 || remaining() / 2 < count) return std::nullopt;
+    const auto bytes = *take(count * 2);
+    if (auto text = asciiFromUtf16(bytes, order_)) return text;
+    ByteReader field(bytes, order_);
     std::u16string units(count, u'\0');
-    for (auto& unit : units) unit = static_cast<char16_t>(*u16());
+    for (auto& unit : units) unit = static_cast<char16_t>(*field.u16());
     if (units.back() == u'\0') units.pop_back();
     return utf8FromUtf16(units);
 }

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <system_error>
 #include <utility>
@@ -103,8 +104,10 @@ fs::path throughLinks(const fs::path& path) {
 
 std::optional<FileError> readInto(Bytes& content, int descriptor, std::uint64_t largest) {
     constexpr std::size_t kChunk = 1U << 16U;
+    // The size that the system told is all that most files need; filling more costs time.
+    content.resize(std::max<std::size_t>(content.capacity(), 1));
     for (std::size_t size = 0;;) {
-        if (content.size() - size < kChunk) content.resize(content.size() + content.size() / 2 + kChunk);
+        if (content.size() == size) content.resize(size + size / 2 + kChunk);
         const auto got = ::read(descriptor, content.data() + size, content.size() - size);
         if (got < 0 && errno == EINTR) continue;
         if (got < 0) return lastError();

@@ -91,9 +91,10 @@ enum class Next { goOn, stop };
 
 Next readEntry(Reader body, std::vector<Swatch>& swatches, LeftOut* leftOut) {
     const auto length = body.u16();
-    const auto name = length ? body.utf16(*length) : std::nullopt;
+    auto name = length ? body.utf16(*length) : std::nullopt;
     if (!name) return note(leftOut, kUnreadableName), Next::stop;
-    if (const auto colour = colourOf(body, leftOut)) swatches.push_back({*colour, keptText(*name)});
+    if (const auto colour = colourOf(body, leftOut))
+        swatches.push_back({*colour, keptText(std::move(*name))});
     return Next::goOn;
 }
 

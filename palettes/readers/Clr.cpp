@@ -32,7 +32,7 @@ std::optional<std::vector<Swatch>> clr(ByteView data, LeftOut* leftOut) {
     for (const auto& entry : list->entries) {
         if (const auto colour = colourOf(entry.colour))
             // A key keeps its control characters; only white space at its ends goes.
-            swatches.push_back({*colour, named(trimmed(entry.key))});
+            swatches.push_back({*colour, named(std::string(trimmed(entry.key)))});
         else
             note(leftOut, "a colour that cannot be converted");
     }

@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::string_view kSignature = "GIMP Palette";
 constexpr int kLargest = 255;
-constexpr std::size_t kSmallestLine = 6;
 
 bool isDigit(char c) {
     return c >= '0' && c <= '9';
@@ -55,7 +54,7 @@ std::optional<Swatch> swatchOf(std::string_view line) {
         if (!byte) return std::nullopt;
         component = *byte / double{kLargest};
     }
-    return Swatch{{rgb[0], rgb[1], rgb[2], 1}, keptText(line)};
+    return Swatch{{rgb[0], rgb[1], rgb[2], 1}, keptText(std::string(line))};
 }
 
 void readLine(std::string_view line, std::vector<Swatch>& swatches, LeftOut* leftOut) {

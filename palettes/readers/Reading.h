@@ -12,10 +12,10 @@
 namespace tintra::PaletteFile {
 
 /// `kept` of a text that is there.
-std::optional<std::string> keptText(std::string_view text);
+std::optional<std::string> keptText(std::string text);
 
 /// A text as a name: nothing when it is empty or "Untitled" in any case.
-std::optional<std::string> named(std::string_view trimmedText);
+std::optional<std::string> named(std::string trimmedText);
 
 /// A colour of cyan, magenta, yellow and black, brought into 0...1, in the working CMYK space;
 /// nothing when that space has not four components or refuses the conversion.

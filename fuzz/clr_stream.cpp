@@ -1,0 +1,6 @@
+#include "fuzz/PaletteFuzzer.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    tintra::fuzzPalette(data, size, tintra::PaletteFile::Kind::clr);
+    return 0;
+}
