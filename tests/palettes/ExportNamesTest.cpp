@@ -66,7 +66,7 @@ TEST(ExportNames, NeverBreakAFile) {
         const auto gpl = PaletteExport::gpl(name, entry);
         EXPECT_TRUE(isXml(PaletteExport::xml(name, entry, {}))) << name;
         EXPECT_TRUE(isXml(PaletteExport::svg(entry, {}))) << name;
-        EXPECT_EQ(occurrences(html, "<"), 27) << html;
+        EXPECT_EQ(occurrences(html, "<"), 23) << html;
         EXPECT_EQ(occurrences(markdown, "\n"), 5) << markdown;
         EXPECT_EQ(borders(markdown), 15) << markdown;
         EXPECT_EQ(occurrences(css, "*/"), 1) << css;
@@ -91,7 +91,7 @@ TEST(ExportNames, ComeBackFromJsonAsTheyWere) {
             for (auto at = text.find(entity); at != std::string::npos;
                  at = text.find(entity, at + 1))
                 text.replace(at, std::string_view(entity).size(), character);
-        if (isValidUtf8(name)) EXPECT_EQ(text, name);
+        EXPECT_TRUE(text == name || !isValidUtf8(name)) << text;
     }
 }
 

@@ -63,8 +63,8 @@ TEST(ExportText, FollowsTheHexOptions) {
         std::string_view part;
     };
     const Row rows[] = {
-        {json, "\"hex\": \"0000FF80\""}, {xml, "hex=\"0000FF80\""},  {html, "background:#0000FF80"},
-        {html, "<code>0000FF80</code>"}, {markdown, "| 0000FF80 |"}, {svg, "\"#0000FF\""},
+        {json, R"("hex": "0000FF80")"},  {xml, R"(hex="0000FF80")"}, {html, "background:#0000FF80"},
+        {html, "<code>0000FF80</code>"}, {markdown, "| 0000FF80 |"}, {svg, R"("#0000FF")"},
         {css, ": #0000FF80;"},           {less, ": #0000FF80;"},
     };
     for (const auto& [format, part] : rows) {
