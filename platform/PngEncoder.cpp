@@ -44,6 +44,8 @@ bool writeHeader(png_structp png, png_infop info, std::uint32_t width, std::uint
     png_set_IHDR(png, info, width, height, 8, PNG_COLOR_TYPE_RGB_ALPHA, PNG_INTERLACE_NONE,
                  PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
     png_set_sRGB(png, info, PNG_sRGB_INTENT_RELATIVE);
+    // The other filters cost four times as much and make flat areas no smaller.
+    png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FAST_FILTERS);
     png_write_info(png, info);
     return true;
 }
