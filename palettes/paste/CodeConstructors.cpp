@@ -1,8 +1,8 @@
 #include "colour/Clamp.h"
-#include "colour/ColorProfiles.h"
 #include "palettes/PasteColours.h"
 #include "palettes/paste/HexScan.h"
 #include "palettes/paste/Numbers.h"
+#include "palettes/readers/Reading.h"
 #include "platform/Unicode.h"
 
 #include <algorithm>
@@ -70,10 +70,10 @@ std::optional<WashColor> cmyk(const Arguments& a) {
     if (a.count() < 4) return std::nullopt;
     Components inks{};
     for (std::size_t ink = 0; ink < inks.size(); ++ink)
-        inks[ink] = clampedUnit(a.fraction(ink, kByte));
-    const auto srgb = ColorProfiles::shared().cmykSpace().toSrgb(inks);
-    if (!srgb) return std::nullopt;
-    return WashColor{srgb->r, srgb->g, srgb->b, a.alpha(4, kByte)};
+        inks[ink] = a.fraction(ink, kByte);
+    auto colour = PaletteFile::colourOfInks(inks);
+    if (colour) colour->a = a.alpha(4, kByte);
+    return colour;
 }
 
 /// The part of the code that holds the arguments.

@@ -151,11 +151,11 @@ private:
 
     /// Whether the next line that is not empty is indented deeper than the piece before the cursor.
     bool opensBlock() const {
-        const auto own = text_.find_first_not_of(kBlank, begin_);
-        if (own >= at_ || declaresVariableAt(text_, own)) return false;
+        const auto own = text_.substr(begin_, at_ - begin_).find_first_not_of(kBlank);
+        if (own == std::string_view::npos || declaresVariableAt(text_, begin_ + own)) return false;
         const auto below = text_.find_first_not_of(kBlank, at_);
         if (below == std::string_view::npos) return false;
-        return below - (text_.find_last_of(kLineBreak, below) + 1) > own - begin_;
+        return below - (text_.find_last_of(kLineBreak, below) + 1) > own;
     }
 
     void endBlockwise(Kind kind) {
