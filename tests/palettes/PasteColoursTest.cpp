@@ -142,7 +142,7 @@ TEST(PasteColours, FindsNumbersBehindAKeyword) {
 TEST(PasteColours, TakesAnyBytesInLinearTime) {
     const auto times = [](std::string_view piece) {
         std::string text;
-        while (text.size() < 1'000'000)
+        while (text.size() < 300'000)
             text += piece;
         return text;
     };
