@@ -13,7 +13,7 @@ void format(benchmark::State& state) {
     state.SetLabel(std::string(code.rawValue()));
     WashColor colour{0.9, 0.3, 0.1, 1};
     const FormatOptions options;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         benchmark::DoNotOptimize(colour);
         benchmark::DoNotOptimize(code.string(colour, "Robin\u2019s Egg Blue", options));
     }

@@ -28,7 +28,7 @@ WashColor nthColour(std::uint32_t n) {
 }
 
 void readList(benchmark::State& state) {
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         const NameList list(listFile());
         if (list.empty()) return state.SkipWithError("no list beside the program");
     }
@@ -39,7 +39,7 @@ void coldLookUp(benchmark::State& state) {
     auto& names = ColorNames::shared();
     names.loadIfNeeded();
     static std::uint32_t n = 1'000; // no colour of an earlier run, which would be in the cache
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         benchmark::DoNotOptimize(names.name(nthColour(n++)));
 }
 BENCHMARK(coldLookUp)->Unit(benchmark::kMicrosecond);
@@ -47,7 +47,7 @@ BENCHMARK(coldLookUp)->Unit(benchmark::kMicrosecond);
 void cachedLookUp(benchmark::State& state) {
     auto& names = ColorNames::shared();
     std::uint32_t n = 0;
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         benchmark::DoNotOptimize(names.name(nthColour(n++ % 256)));
 }
 BENCHMARK(cachedLookUp);
@@ -60,13 +60,13 @@ void scan(benchmark::State& state) {
     if (way >= scans.size()) return state.SkipWithError("the processor lacks it");
     state.SetLabel(std::string(scans[way].title));
 
-    std::mt19937_64 random(1); // NOLINT(cert-msc51-cpp): the same colours in every run
+    std::mt19937_64 random(1); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same colours in every run
     std::uniform_real_distribution<double> anywhere(-0.4, 0.4);
     std::array<std::vector<double>, 3> columns;
     for (auto& column : columns)
         for (std::size_t i = 0; i < kCount; ++i)
             column.push_back(anywhere(random));
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         benchmark::DoNotOptimize(
             scans[way].scan({columns[0], columns[1], columns[2]}, {anywhere(random), 0, 0}));
 }
