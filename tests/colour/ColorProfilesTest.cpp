@@ -2,6 +2,7 @@
 
 #include "colour/WashColor.h"
 #include "platform/File.h"
+#include "tests/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -13,25 +14,21 @@ namespace fs = std::filesystem;
 class ProfileFolders : public testing::Test {
 protected:
     void SetUp() override {
-        root_ = fs::temp_directory_path() /
-                (std::string("tintra-profiles-") +
-                 testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::remove_all(root_);
         fs::create_directories(root_ / "first");
         fs::create_directories(root_ / "second");
     }
-    void TearDown() override { fs::remove_all(root_); }
 
     fs::path write(const std::string& name, const Bytes& bytes) const {
         EXPECT_FALSE(writeFile(root_ / name, bytes, Existing::refuse));
         return root_ / name;
     }
     ColorProfiles profiles() const {
-        return ColorProfiles(
-            [this] { return std::vector{root_ / "first", root_ / "missing", root_ / "second"}; });
+        return ColorProfiles([this] {
+            return std::vector{root_ / "first", root_ / "missing", root_ / "second"};
+        });
     }
 
-    fs::path root_;
+    const TemporaryFolder root_;
     const Bytes cmyk_ = ColourSpace::deviceCMYK()->iccProfile();
     const Bytes rgb_ = ColourSpace::displayP3()->iccProfile();
 };
@@ -67,7 +64,8 @@ TEST_F(ProfileFolders, SelectingFallsBackToTheDeviceProfile) {
 
 TEST(ColorProfilesTest, ListsTheRgbSpacesInMenuOrder) {
     std::vector<std::string> names;
-    for (const auto& space : ColorProfiles::rgbSpaces()) names.push_back(space.name);
+    for (const auto& space : ColorProfiles::rgbSpaces())
+        names.push_back(space.name);
     EXPECT_EQ(names, (std::vector<std::string>{"sRGB IEC61966-2.1", "Display P3",
                                                "Adobe RGB (1998)", "Generic RGB", "ITU-R BT.2020",
                                                "ROMM RGB", "DCI-P3", "ITU-R BT.709"}));
@@ -92,7 +90,8 @@ TEST(ColorProfilesTest, TheGamutTestKnowsInkFromLight) {
 std::shared_ptr<const ColourSpace> refusing(const ColourSpace& space) {
     auto bytes = space.iccProfile();
     constexpr std::size_t kTagCount = 128; // right after the header of an ICC profile
-    for (std::size_t i = 0; i < 4; ++i) bytes[kTagCount + i] = std::byte{0};
+    for (std::size_t i = 0; i < 4; ++i)
+        bytes[kTagCount + i] = std::byte{0};
     return ColourSpace::fromIccProfile(bytes);
 }
 

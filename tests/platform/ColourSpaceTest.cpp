@@ -86,7 +86,8 @@ TEST(ColourSpace, TheDeviceProfilePrints) {
     EXPECT_TRUE(cmyk->convertsBothWays());
     const auto paper = cmyk->fromSrgb({1, 1, 1});
     ASSERT_TRUE(paper);
-    for (const double ink : *paper) EXPECT_NEAR(ink, 0, 1e-4);
+    for (const double ink : *paper)
+        EXPECT_NEAR(ink, 0, 1e-4);
     const auto yellow = cmyk->toSrgb({0, 0, 1, 0});
     EXPECT_GT(yellow->r, 0.95);
     EXPECT_LT(yellow->b, 0.3);

@@ -1,8 +1,8 @@
 #include "platform/File.h"
 
-#include <gtest/gtest.h>
+#include "tests/TemporaryFolder.h"
 
-#include <fstream>
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 namespace tintra {
@@ -12,15 +12,6 @@ namespace fs = std::filesystem;
 
 class Files : public testing::Test {
 protected:
-    void SetUp() override {
-        folder_ = fs::temp_directory_path() /
-                  (std::string("tintra-files-") +
-                   testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::remove_all(folder_);
-        fs::create_directories(folder_);
-    }
-    void TearDown() override { fs::remove_all(folder_); }
-
     static std::string content(const fs::path& path) {
         const auto read = readFile(path);
         return std::string(asText(std::get<Bytes>(read)));
@@ -31,10 +22,10 @@ protected:
     }
     std::size_t fileCount() const {
         return static_cast<std::size_t>(
-            std::distance(fs::directory_iterator(folder_), fs::directory_iterator()));
+            std::distance(fs::directory_iterator(folder_.path()), fs::directory_iterator()));
     }
 
-    fs::path folder_;
+    const TemporaryFolder folder_;
 };
 
 TEST_F(Files, ANewFileHasTheUsualPermissionsAndNothingElseIsLeft) {
@@ -78,7 +69,7 @@ TEST_F(Files, WhatCannotBeWrittenSaysWhyAndLeavesNothing) {
 
 TEST_F(Files, WhatCannotBeReadSaysWhy) {
     const auto why = [](const auto& result) { return std::get<FileError>(result).why; };
-    EXPECT_EQ(why(readFile(folder_)), "Is a directory");
+    EXPECT_EQ(why(readFile(folder_.path())), "Is a directory");
     EXPECT_EQ(why(readFile(folder_ / "none")), "No such file or directory");
     ASSERT_FALSE(write(folder_ / "a", "12345", Existing::refuse));
     EXPECT_EQ(why(readFile(folder_ / "a", 4)), "the file is too large");

@@ -20,8 +20,8 @@ TEST(Number, ReadsOnlyWholeDecimalNumbers) {
     EXPECT_EQ(number("-.5"), -0.5);
     EXPECT_EQ(number("+1."), 1.0);
     EXPECT_EQ(number("2e-3"), 0.002);
-    for (const std::string_view bad : {"", "+", ".", "+-5", "--5", "1,5", "1 ", "0x10", "inf", "nan",
-                                       "-inf", "1e999", "5deg", "1.2.3"})
+    for (const std::string_view bad : {"", "+", ".", "+-5", "--5", "1,5", "1 ", "0x10", "inf",
+                                       "nan", "-inf", "1e999", "5deg", "1.2.3"})
         EXPECT_EQ(number(bad), std::nullopt) << bad;
 }
 

@@ -1,3 +1,5 @@
+#include "tests/TemporaryFolder.h"
+
 #include <gtest/gtest.h>
 #include <lcms2.h>
 
@@ -275,12 +277,6 @@ TEST_F(CmykProfile, SeparatesKnownColours) {
 
 class CmykTool : public testing::Test {
 protected:
-    void SetUp() override {
-        fs::remove_all(folder_);
-        fs::create_directories(folder_);
-    }
-    void TearDown() override { fs::remove_all(folder_); }
-
     /// Whether the tool succeeded; what it said is in the file "said".
     bool run(const std::string& arguments) const {
         const std::string command =
@@ -289,7 +285,7 @@ protected:
     }
     std::string quoted(const char* name) const { return "'" + (folder_ / name).string() + "'"; }
 
-    const fs::path folder_ = fs::temp_directory_path() / "tintra-cmyk-tool";
+    const tintra::TemporaryFolder folder_;
 };
 
 TEST_F(CmykTool, BuildsTheSameBytesAgain) {
@@ -300,7 +296,7 @@ TEST_F(CmykTool, BuildsTheSameBytesAgain) {
 }
 
 TEST_F(CmykTool, FailsWithOneLineAndLeavesNothing) {
-    fs::create_directories(folder_ / "a folder" / "in it");
+    fs::create_directories(folder_ / "a folder/in it");
     for (const std::string& arguments :
          {std::string(), quoted("missing/out.icc"), quoted("a folder")}) {
         SCOPED_TRACE(arguments);
