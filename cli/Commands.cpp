@@ -42,6 +42,19 @@ const std::vector<Command>& table() {
          {{"tintra harmony triadic '#1e4d6b'", "three hues"},
           {"tintra harmony ramp '#fff' '#1e4d6b' --count 9 --space okLab", "nine even steps"}},
          declareHarmony},
+        {"mix",
+         "Two colours mixed as paints",
+         "Mixes two colours as pigments mix, not as lights: blue and yellow make green. White and "
+         "black paint can be added; with --steps a ramp of mixes is printed.",
+         {{"tintra mix blue yellow", "half and half"},
+          {"tintra mix '#1e4d6b' '#e29578' --steps 7 --white 0.1", "a ramp, lightened"}},
+         declareMix},
+        {"vision",
+         "Colours as people with a colour-vision deficiency see them",
+         "Prints the colour that an observer with protanopia, deuteranopia, tritanopia or "
+         "achromatopsia sees for each colour.",
+         {{"tintra vision deuteranopia red green", "two colours that become alike"}},
+         declareVision},
         {"read",
          "The swatches of palette files",
          "Reads Adobe swatch exchange, Photoshop swatches, GIMP palettes, colour lists and "

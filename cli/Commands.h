@@ -40,6 +40,8 @@ Action declareName(Declaration& declaration);
 Action declareCode(Declaration& declaration);
 Action declareContrast(Declaration& declaration);
 Action declareHarmony(Declaration& declaration);
+Action declareMix(Declaration& declaration);
+Action declareVision(Declaration& declaration);
 Action declareRead(Declaration& declaration);
 Action declareConvert(Declaration& declaration);
 Action declareFormats(Declaration& declaration);

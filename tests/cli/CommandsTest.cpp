@@ -1,4 +1,5 @@
 #include "cli/Run.h"
+#include "tests/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,7 +7,6 @@
 
 #include <cmath>
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -44,27 +44,13 @@ std::vector<std::string> keys(const Json& object) {
 /// A folder of its own for a test, removed at its end.
 class CommandsWithFiles : public testing::Test {
 protected:
-    void SetUp() override {
-        folder = std::filesystem::temp_directory_path() /
-                 ("tintra-cli-" +
-                  std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
-        std::filesystem::remove_all(folder);
-        std::filesystem::create_directories(folder);
+    std::string file(const std::string& name, const std::string& bytes) const {
+        return folder.write(name, bytes).string();
     }
-    void TearDown() override { std::filesystem::remove_all(folder); }
-
-    std::string file(const std::string& name, const std::string& content) const {
-        const auto path = folder / name;
-        std::ofstream(path, std::ios::binary) << content;
-        return path.string();
-    }
-    std::string content(const std::string& name) const {
-        std::ifstream in(folder / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
-    }
+    std::string content(const std::string& name) const { return folder.content(name); }
     std::string path(const std::string& name) const { return (folder / name).string(); }
 
-    std::filesystem::path folder;
+    const TemporaryFolder folder;
 };
 
 TEST(Commands, WrongUsageIsStatusTwoWithOneSentence) {
@@ -83,6 +69,9 @@ TEST(Commands, WrongUsageIsStatusTwoWithOneSentence) {
         {"harmony", "triadic", "red", "--count", "0"},
         {"convert", "a.ase"},
         {"convert", "a.ase", "-o", "a.doc"},
+        {"mix", "red"},
+        {"mix", "red", "blue", "--steps", "0"},
+        {"vision", "colour-blind", "red"},
         {"read", "--as", "word", "a.ase"},
         {"show", "red", "--rgb-profile", "CIE"},
         {"show", "red", "--cmyk-profile", "no such press"},
@@ -99,8 +88,8 @@ TEST(Commands, WrongUsageIsStatusTwoWithOneSentence) {
 TEST(Commands, HelpStandsOnEveryLevelWithExamples) {
     EXPECT_THAT(tintra({"--help"}).out, HasSubstr("convert"));
     EXPECT_THAT(tintra({"--version"}).out, StartsWith("tintra "));
-    for (const auto* command : {"show", "name", "code", "contrast", "harmony", "read", "convert",
-                                "formats", "profiles"}) {
+    for (const auto* command : {"show", "name", "code", "contrast", "harmony", "mix", "vision",
+                                "read", "convert", "formats", "profiles"}) {
         const auto help = tintra({command, "--help"});
         EXPECT_EQ(help.status, 0);
         EXPECT_THAT(help.out, HasSubstr(std::string("tintra ") + command));
@@ -245,6 +234,28 @@ TEST(Commands, HarmonyPrintsItsBands) {
     EXPECT_EQ(tintra({"harmony", "ramp", "#000", "#fff", "--count", "3"}).out,
               "#000000\n#808080\n#FFFFFF\n");
     EXPECT_TRUE(tintra({"harmony", "--json", "paletteBuilder", "red"}).json()["bands"].empty());
+}
+
+TEST(Commands, MixAnswersPaintNotLight) {
+    const auto green = tintra({"mix", "--json", "blue", "yellow"}).json()["colours"];
+    ASSERT_EQ(green.size(), 1U);
+    // The reference mix, calculated apart from this program.
+    EXPECT_NEAR(green[0]["r"].get<double>(), 0.22240, 1e-5);
+    EXPECT_NEAR(green[0]["g"].get<double>(), 0.56064, 1e-5);
+    EXPECT_NEAR(green[0]["b"].get<double>(), 0.32894, 1e-5);
+    // What lies beyond 0 to 1 is taken as the bound: only B is left.
+    EXPECT_EQ(tintra({"mix", "blue", "#1e4d6b", "--ratio", "7"}).out, "#1E4D6B\n");
+    EXPECT_EQ(tintra({"mix", "--json", "red", "#fff8", "--steps", "5"}).json()["colours"].size(),
+              5U);
+}
+
+TEST(Commands, VisionShowsWhatOthersSee) {
+    const auto seen = tintra({"vision", "achromatopsia", "--json", "#ff000080", "white"}).json();
+    ASSERT_EQ(seen.size(), 2U);
+    EXPECT_EQ(seen[0]["r"], seen[0]["b"]); // a grey
+    EXPECT_EQ(seen[0]["alpha"], 128.0 / 255);
+    EXPECT_EQ(seen[1]["hex"], "#FFFFFF");
+    EXPECT_EQ(tintra({"vision", "typical", "#123456"}).out, "#123456\n");
 }
 
 TEST_F(CommandsWithFiles, ReadAnswersTheShapeOfTheContract) {
