@@ -33,7 +33,7 @@ std::optional<PlatformColour> colourOf(const TypedStream& stream, const StreamVa
     const auto* const object = stream.object(value);
     if (object == nullptr || object->className != "NSColor") return std::nullopt;
     const auto number = numberAt(object->values, 0);
-    if (!number) return std::nullopt;
+    if (!number || *number < 0 || !(*number <= kCatalogueColour)) return std::nullopt;
     if (*number == kCatalogueColour) { // two names, then the colour to fall back to
         if (object->values.size() != 4 || fallbacksLeft == 0) return std::nullopt;
         return colourOf(stream, object->values[3], fallbacksLeft - 1);
@@ -44,13 +44,14 @@ std::optional<PlatformColour> colourOf(const TypedStream& stream, const StreamVa
     return storedColour(basic->space(), basic->components, *components);
 }
 
+/// The key as far as U+0000, which some converters leave at its end and property lists cannot hold.
 std::optional<std::string_view> keyOf(const TypedStream& stream, const StreamValue& value) {
     const auto* const object = stream.object(value);
     if (object == nullptr || object->values.size() != 1) return std::nullopt;
     if (object->className != "NSString" && object->className != "NSMutableString")
         return std::nullopt;
     const auto* const text = std::get_if<std::string_view>(object->values.data());
-    return text == nullptr ? std::nullopt : std::optional(*text);
+    return text == nullptr ? std::nullopt : std::optional(text->substr(0, text->find('\0')));
 }
 
 /// How many colours the list announces; nothing when the stream holds no colour list.
