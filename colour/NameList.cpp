@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <optional>
 
 namespace tintra {
@@ -19,7 +20,7 @@ constexpr std::size_t kLikelyLine = 16;
 /// A line taken apart.
 struct Entry {
     Rgb255 bytes;
-    std::string_view name;
+    std::size_t name; ///< where it begins
 };
 
 /// "#rrggbb" and a tab, as nearly all lines begin: this only saves time.
@@ -30,7 +31,7 @@ std::optional<Entry> plainEntry(std::string_view line) {
     };
     const Rgb255 bytes{byte(1), byte(3), byte(5)};
     if ((bytes.r | bytes.g | bytes.b) < 0) return std::nullopt;
-    return Entry{bytes, line.substr(8)};
+    return Entry{bytes, 8};
 }
 
 std::optional<Entry> entryOf(std::string_view line) {
@@ -39,29 +40,33 @@ std::optional<Entry> entryOf(std::string_view line) {
     if (tab == std::string_view::npos) return std::nullopt;
     const auto colour = WashColor::fromHex(line.substr(0, tab));
     if (!colour) return std::nullopt;
-    return Entry{colour->srgb255(), line.substr(tab + 1)};
+    return Entry{colour->srgb255(), tab + 1};
+}
+
+std::size_t lineEnd(std::string_view text, std::size_t from) {
+    return std::min(text.find('\n', from), text.size());
 }
 
 } // namespace
 
 NameList::NameList(Bytes file) : file_(std::move(file)) {
-    auto text = asText(file_);
-    if (!isValidUtf8(text)) return;
+    const auto text = asText(file_);
+    if (text.size() > std::numeric_limits<std::uint32_t>::max() || !isValidUtf8(text)) return;
     const auto likely = text.size() / kLikelyLine;
     names_.reserve(likely);
     for (auto* column : {&L_, &a_, &b_})
         column->reserve(likely);
-    while (!text.empty()) {
-        const auto end = std::min(text.find('\n'), text.size());
-        add(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
+    for (std::size_t begin = 0; begin < text.size();) {
+        const auto end = lineEnd(text, begin);
+        addLine(begin, end);
+        begin = end + 1;
     }
 }
 
-void NameList::add(std::string_view line) {
-    const auto entry = entryOf(line);
+void NameList::addLine(std::size_t begin, std::size_t end) {
+    const auto entry = entryOf(asText(file_).substr(begin, end - begin));
     if (!entry) return;
-    const auto& [bytes, name] = *entry;
+    const auto& bytes = entry->bytes;
     const auto& tables = SrgbBytes::shared();
     const auto linear = [&tables](int byte) {
         return tables.linear(static_cast<std::uint8_t>(byte));
@@ -70,11 +75,13 @@ void NameList::add(std::string_view line) {
     L_.push_back(lab.L);
     a_.push_back(lab.a);
     b_.push_back(lab.b);
-    names_.push_back(name);
+    names_.push_back(static_cast<std::uint32_t>(begin + entry->name));
 }
 
 std::string_view NameList::nearest(const Oklab& colour) const {
-    return names_[nameScans().front().scan({L_, a_, b_}, colour)];
+    const auto begin = names_[nameScans().front().scan({L_, a_, b_}, colour)];
+    const auto text = asText(file_);
+    return text.substr(begin, lineEnd(text, begin) - begin);
 }
 
 } // namespace tintra
