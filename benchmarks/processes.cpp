@@ -2,12 +2,12 @@
 // most memory it held.
 
 #include <benchmark/benchmark.h>
-
-#include <chrono>
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
+
+#include <chrono>
 #include <vector>
 
 namespace {

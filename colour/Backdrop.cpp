@@ -12,7 +12,9 @@ std::function<Rgb()>& ownSource() {
 
 } // namespace
 
-void setBackdropSource(std::function<Rgb()> source) { ownSource() = std::move(source); }
+void setBackdropSource(std::function<Rgb()> source) {
+    ownSource() = std::move(source);
+}
 
 Rgb backdrop() {
     const auto& source = ownSource();

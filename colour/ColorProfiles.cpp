@@ -67,17 +67,18 @@ std::vector<fs::path> ColorProfiles::searchPaths() {
         "/Library/Application Support/Adobe/Color/Profiles/Recommended",
     };
     addWithSubfolders(folders, home / ".color/icc");
-    for (const auto& data : dataFolders()) addWithSubfolders(folders, data / "color/icc");
+    for (const auto& data : dataFolders())
+        addWithSubfolders(folders, data / "color/icc");
     return folders;
 }
 
 const std::vector<ColorProfiles::NamedSpace>& ColorProfiles::rgbSpaces() {
     static const auto spaces = [] {
         std::vector<NamedSpace> list;
-        for (auto& space : {ColourSpace::sRGB(), ColourSpace::displayP3(),
-                            ColourSpace::adobeRGB1998(), ColourSpace::genericRGB(),
-                            ColourSpace::ituRBT2020(), ColourSpace::rommRGB(),
-                            ColourSpace::dciP3(), ColourSpace::ituRBT709()})
+        for (auto& space :
+             {ColourSpace::sRGB(), ColourSpace::displayP3(), ColourSpace::adobeRGB1998(),
+              ColourSpace::genericRGB(), ColourSpace::ituRBT2020(), ColourSpace::rommRGB(),
+              ColourSpace::dciP3(), ColourSpace::ituRBT709()})
             if (space) list.push_back({space->localizedName(), space});
         return list;
     }();
@@ -125,11 +126,13 @@ void ColorProfiles::loadIfNeeded() {
         for (const auto& path : entriesOf(folder)) {
             if (!hasProfileExtension(path)) continue;
             const auto space = openFile(path);
-            if (!space || space->model() != ColourModel::cmyk || !space->convertsBothWays()) continue;
+            if (!space || space->model() != ColourModel::cmyk || !space->convertsBothWays())
+                continue;
             found.emplace(space->localizedName(), path);
         }
     }
-    for (const auto& [name, path] : found) cmykProfiles_.push_back({name, path});
+    for (const auto& [name, path] : found)
+        cmykProfiles_.push_back({name, path});
     std::stable_sort(cmykProfiles_.begin(), cmykProfiles_.end(),
                      [](const auto& a, const auto& b) { return sortsBefore(a.name, b.name); });
 }

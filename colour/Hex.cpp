@@ -43,7 +43,8 @@ std::optional<WashColor> WashColor::fromHex(std::string_view hex) {
     if (!dropPrefix(text, "0x")) dropPrefix(text, "0X");
     std::string doubled;
     if (text.size() == 3) {
-        for (const char digit : text) doubled.append(2, digit);
+        for (const char digit : text)
+            doubled.append(2, digit);
         text = doubled;
     }
     if (text.size() != 6 && text.size() != 8) return std::nullopt;

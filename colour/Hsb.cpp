@@ -15,12 +15,18 @@ Rgb rgbFromHsb(const Hsb& colour) {
     const double q = v * (1 - colour.s * f);
     const double t = v * (1 - colour.s * (1 - f));
     switch (static_cast<int>(sector) % 6) {
-    case 0: return {v, t, p};
-    case 1: return {q, v, p};
-    case 2: return {p, v, t};
-    case 3: return {p, q, v};
-    case 4: return {t, p, v};
-    default: return {v, p, q};
+    case 0:
+        return {v, t, p};
+    case 1:
+        return {q, v, p};
+    case 2:
+        return {p, v, t};
+    case 3:
+        return {p, q, v};
+    case 4:
+        return {t, p, v};
+    default:
+        return {v, p, q};
     }
 }
 

@@ -11,7 +11,9 @@ double dot(const std::array<double, 3>& row, double x, double y, double z) {
     return row[0] * x + row[1] * y + row[2] * z;
 }
 
-double cubed(double v) { return v * v * v; }
+double cubed(double v) {
+    return v * v * v;
+}
 
 } // namespace
 

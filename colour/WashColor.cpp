@@ -15,9 +15,13 @@ namespace tintra {
 
 namespace {
 
-Rgb linearOf(const WashColor& c) { return {srgbDecoded(c.r), srgbDecoded(c.g), srgbDecoded(c.b)}; }
+Rgb linearOf(const WashColor& c) {
+    return {srgbDecoded(c.r), srgbDecoded(c.g), srgbDecoded(c.b)};
+}
 
-Rgb255 bytesOf(double r, double g, double b) { return {byteOf(r), byteOf(g), byteOf(b)}; }
+Rgb255 bytesOf(double r, double g, double b) {
+    return {byteOf(r), byteOf(g), byteOf(b)};
+}
 
 /// The largest and smallest component, and the hue in sixths of a turn, -1...5 (0 for a grey).
 struct HueCircle {
@@ -46,7 +50,9 @@ double contrast(double y1, double y2) {
 
 } // namespace
 
-int byteOf(double component) { return static_cast<int>(std::round(clampedUnit(component) * 255)); }
+int byteOf(double component) {
+    return static_cast<int>(std::round(clampedUnit(component) * 255));
+}
 
 std::optional<WashColor> WashColor::fromPlatform(const PlatformColour& colour) {
     if (!colour.space) return std::nullopt;
@@ -64,9 +70,13 @@ WashColor WashColor::fromOklab(const Oklab& colour, double alpha) {
             clampedUnit(srgbEncoded(linear.b)), clampedUnit(alpha)};
 }
 
-PlatformColour WashColor::ns() const { return {ColourSpace::sRGB(), {r, g, b}, a}; }
+PlatformColour WashColor::ns() const {
+    return {ColourSpace::sRGB(), {r, g, b}, a};
+}
 
-Rgb255 WashColor::srgb255() const { return bytesOf(r, g, b); }
+Rgb255 WashColor::srgb255() const {
+    return bytesOf(r, g, b);
+}
 
 Rgb255 WashColor::rgb255(const ColourSpace& space) const {
     if (&space == ColourSpace::sRGB().get()) return srgb255();
@@ -78,11 +88,14 @@ Rgb255 WashColor::rgb255(const ColourSpace& space) const {
 std::string WashColor::hexNoHash() const {
     const auto bytes = rgb255(ColorProfiles::shared().rgbSpace());
     std::string text;
-    for (const int byte : {bytes.r, bytes.g, bytes.b}) appendHexByte(text, byte);
+    for (const int byte : {bytes.r, bytes.g, bytes.b})
+        appendHexByte(text, byte);
     return text;
 }
 
-std::string WashColor::hex() const { return '#' + hexNoHash(); }
+std::string WashColor::hex() const {
+    return '#' + hexNoHash();
+}
 
 std::string WashColor::hexWithAlpha() const {
     auto text = hexNoHash();
@@ -93,7 +106,8 @@ std::string WashColor::hexWithAlpha() const {
 std::string WashColor::identity() const {
     const auto bytes = srgb255();
     std::string text;
-    for (const int byte : {bytes.r, bytes.g, bytes.b, byteOf(a)}) appendHexByte(text, byte);
+    for (const int byte : {bytes.r, bytes.g, bytes.b, byteOf(a)})
+        appendHexByte(text, byte);
     return text;
 }
 
@@ -123,14 +137,18 @@ Lab WashColor::lab(LabIlluminant illuminant) const {
     return labFromLinear(linearOf(*this), illuminant);
 }
 
-Oklab WashColor::oklab() const { return oklabFromLinear(linearOf(*this)); }
+Oklab WashColor::oklab() const {
+    return oklabFromLinear(linearOf(*this));
+}
 
 double WashColor::luminance() const {
     const auto linear = linearOf(*this);
     return 0.2126 * linear.r + 0.7152 * linear.g + 0.0722 * linear.b;
 }
 
-bool WashColor::isOpaque() const { return a >= kOpaqueFrom; }
+bool WashColor::isOpaque() const {
+    return a >= kOpaqueFrom;
+}
 
 WashColor WashColor::overCheckerboard() const {
     if (isOpaque()) return *this;
@@ -148,7 +166,8 @@ WashColor WashColor::readableForeground() const {
 
 } // namespace tintra
 
-std::size_t std::hash<tintra::WashColor>::operator()(const tintra::WashColor& colour) const noexcept {
+std::size_t
+std::hash<tintra::WashColor>::operator()(const tintra::WashColor& colour) const noexcept {
     // FNV-1a over the bit patterns; adding 0 turns -0.0 into +0.0, so that equals hash alike.
     std::uint64_t mixed = 0xcbf29ce484222325;
     for (const double component : {colour.r, colour.g, colour.b, colour.a}) {

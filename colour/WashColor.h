@@ -94,6 +94,7 @@ int byteOf(double component);
 
 } // namespace tintra
 
-template <> struct std::hash<tintra::WashColor> {
+template <>
+struct std::hash<tintra::WashColor> {
     std::size_t operator()(const tintra::WashColor& colour) const noexcept;
 };

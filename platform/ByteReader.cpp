@@ -27,7 +27,8 @@ std::optional<std::string> asciiFromUtf16(ByteView bytes, ByteOrder order) {
 
 } // namespace
 
-template <typename Unsigned> std::optional<Unsigned> ByteReader::unsignedInteger() {
+template <typename Unsigned>
+std::optional<Unsigned> ByteReader::unsignedInteger() {
     const auto bytes = take(sizeof(Unsigned));
     if (!bytes) return std::nullopt;
     std::uint64_t value = 0;
@@ -38,10 +39,18 @@ template <typename Unsigned> std::optional<Unsigned> ByteReader::unsignedInteger
     return static_cast<Unsigned>(value);
 }
 
-std::optional<std::uint8_t> ByteReader::u8() { return unsignedInteger<std::uint8_t>(); }
-std::optional<std::uint16_t> ByteReader::u16() { return unsignedInteger<std::uint16_t>(); }
-std::optional<std::uint32_t> ByteReader::u32() { return unsignedInteger<std::uint32_t>(); }
-std::optional<std::uint64_t> ByteReader::u64() { return unsignedInteger<std::uint64_t>(); }
+std::optional<std::uint8_t> ByteReader::u8() {
+    return unsignedInteger<std::uint8_t>();
+}
+std::optional<std::uint16_t> ByteReader::u16() {
+    return unsignedInteger<std::uint16_t>();
+}
+std::optional<std::uint32_t> ByteReader::u32() {
+    return unsignedInteger<std::uint32_t>();
+}
+std::optional<std::uint64_t> ByteReader::u64() {
+    return unsignedInteger<std::uint64_t>();
+}
 
 std::optional<float> ByteReader::f32() {
     const auto bits = u32();
@@ -66,11 +75,14 @@ std::optional<std::string> ByteReader::utf16(std::size_t count) {
     if (auto text = asciiFromUtf16(bytes, order_)) return text;
     ByteReader field(bytes, order_);
     std::u16string units(count, u'\0');
-    for (auto& unit : units) unit = static_cast<char16_t>(*field.u16());
+    for (auto& unit : units)
+        unit = static_cast<char16_t>(*field.u16());
     if (units.back() == u'\0') units.pop_back();
     return utf8FromUtf16(units);
 }
 
-void ByteReader::seek(std::size_t position) { at_ = std::min(position, bytes_.size()); }
+void ByteReader::seek(std::size_t position) {
+    at_ = std::min(position, bytes_.size());
+}
 
 } // namespace tintra

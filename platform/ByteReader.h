@@ -38,7 +38,8 @@ public:
     void seek(std::size_t position);
 
 private:
-    template <typename Unsigned> std::optional<Unsigned> unsignedInteger();
+    template <typename Unsigned>
+    std::optional<Unsigned> unsignedInteger();
 
     ByteView bytes_;
     ByteOrder order_;

@@ -19,6 +19,8 @@ inline std::string_view asText(ByteView bytes) {
 }
 
 /// The same bytes seen as bytes.
-inline ByteView asBytes(std::string_view text) { return std::as_bytes(std::span(text)); }
+inline ByteView asBytes(std::string_view text) {
+    return std::as_bytes(std::span(text));
+}
 
 } // namespace tintra

@@ -51,18 +51,29 @@ public:
 ColourSpace::ColourSpace(std::unique_ptr<Profile> profile) : profile_(std::move(profile)) {}
 ColourSpace::~ColourSpace() = default;
 
-ColourModel ColourSpace::model() const { return profile_->model; }
-const std::string& ColourSpace::localizedName() const { return profile_->name; }
-bool ColourSpace::convertsBothWays() const { return icc::convertsBothWays(profile_->handle.get()); }
-int ColourSpace::componentCount() const { return icc::componentCount(profile_->handle.get()); }
-Bytes ColourSpace::iccProfile() const { return icc::bytesOf(profile_->handle.get()); }
+ColourModel ColourSpace::model() const {
+    return profile_->model;
+}
+const std::string& ColourSpace::localizedName() const {
+    return profile_->name;
+}
+bool ColourSpace::convertsBothWays() const {
+    return icc::convertsBothWays(profile_->handle.get());
+}
+int ColourSpace::componentCount() const {
+    return icc::componentCount(profile_->handle.get());
+}
+Bytes ColourSpace::iccProfile() const {
+    return icc::bytesOf(profile_->handle.get());
+}
 
 std::optional<ExtendedSrgb> ColourSpace::toSrgb(const Components& components) const {
     auto* const transform = profile_->toLinear();
     if (transform == nullptr) return std::nullopt;
     Components in = components;
     if (model() == ColourModel::cmyk) // the library counts inks in percent
-        for (double& ink : in) ink *= 100;
+        for (double& ink : in)
+            ink *= 100;
     ExtendedSrgb linear;
     cmsDoTransform(transform, in.data(), &linear, 1);
     return ExtendedSrgb{srgbEncoded(linear.r), srgbEncoded(linear.g), srgbEncoded(linear.b)};
@@ -75,7 +86,8 @@ std::optional<Components> ColourSpace::fromSrgb(const ExtendedSrgb& colour) cons
     Components out{};
     cmsDoTransform(transform, &linear, out.data(), 1);
     if (model() == ColourModel::cmyk)
-        for (double& ink : out) ink /= 100;
+        for (double& ink : out)
+            ink /= 100;
     return out;
 }
 

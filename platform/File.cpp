@@ -1,6 +1,5 @@
 #include "platform/File.h"
 
-#include <cerrno>
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <sys/stat.h>
@@ -8,6 +7,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cerrno>
 #include <system_error>
 #include <utility>
 
@@ -17,7 +17,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-FileError lastError() { return {std::generic_category().message(errno)}; }
+FileError lastError() {
+    return {std::generic_category().message(errno)};
+}
 
 /// A file descriptor that closes itself.
 class Descriptor {

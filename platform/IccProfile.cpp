@@ -28,10 +28,14 @@ void describe(cmsHPROFILE profile, const char* description) {
 /// The format of one pixel in doubles; 0 for models that are not converted.
 cmsUInt32Number formatOf(ColourModel model) {
     switch (model) {
-    case ColourModel::grey: return TYPE_GRAY_DBL;
-    case ColourModel::rgb: return TYPE_RGB_DBL;
-    case ColourModel::cmyk: return TYPE_CMYK_DBL;
-    case ColourModel::other: break;
+    case ColourModel::grey:
+        return TYPE_GRAY_DBL;
+    case ColourModel::rgb:
+        return TYPE_RGB_DBL;
+    case ColourModel::cmyk:
+        return TYPE_CMYK_DBL;
+    case ColourModel::other:
+        break;
     }
     return 0;
 }
@@ -46,8 +50,8 @@ TransformHandle transform(cmsHPROFILE from, cmsUInt32Number fromFormat, cmsHPROF
     if (fromFormat == 0 || toFormat == 0) return nullptr;
     // Without the one-pixel cache a transform may run on several threads at once.
     constexpr cmsUInt32Number kFlags = cmsFLAGS_BLACKPOINTCOMPENSATION | cmsFLAGS_NOCACHE;
-    return TransformHandle(cmsCreateTransform(from, fromFormat, to, toFormat,
-                                              INTENT_RELATIVE_COLORIMETRIC, kFlags));
+    return TransformHandle(
+        cmsCreateTransform(from, fromFormat, to, toFormat, INTENT_RELATIVE_COLORIMETRIC, kFlags));
 }
 
 } // namespace
@@ -107,10 +111,14 @@ std::string description(cmsHPROFILE profile) {
 
 ColourModel modelOf(cmsHPROFILE profile) {
     switch (cmsGetColorSpace(profile)) {
-    case cmsSigGrayData: return ColourModel::grey;
-    case cmsSigRgbData: return ColourModel::rgb;
-    case cmsSigCmykData: return ColourModel::cmyk;
-    default: return ColourModel::other;
+    case cmsSigGrayData:
+        return ColourModel::grey;
+    case cmsSigRgbData:
+        return ColourModel::rgb;
+    case cmsSigCmykData:
+        return ColourModel::cmyk;
+    default:
+        return ColourModel::other;
     }
 }
 

@@ -1,7 +1,6 @@
 #include "platform/Locations.h"
 
 #include <cstdlib>
-
 #include <string_view>
 #include <system_error>
 
@@ -23,7 +22,9 @@ void addAbsolute(std::vector<fs::path>& folders, const fs::path& folder) {
 
 } // namespace
 
-fs::path homeFolder() { return {environment("HOME")}; }
+fs::path homeFolder() {
+    return {environment("HOME")};
+}
 
 std::vector<fs::path> dataFolders() {
     std::vector<fs::path> folders;

@@ -1,7 +1,5 @@
 #include "platform/Unicode.h"
 
-#include <algorithm>
-#include <cstdint>
 #include <unicode/casemap.h>
 #include <unicode/coll.h>
 #include <unicode/normalizer2.h>
@@ -10,6 +8,8 @@
 #include <unicode/utf16.h>
 #include <unicode/utf8.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <memory>
 
 namespace tintra {
@@ -108,7 +108,8 @@ std::u16string utf16FromUtf8(std::string_view text) {
 std::string utf8FromLatin1(std::string_view bytes) {
     std::string out;
     out.reserve(bytes.size());
-    for (const char byte : bytes) append(out, static_cast<unsigned char>(byte));
+    for (const char byte : bytes)
+        append(out, static_cast<unsigned char>(byte));
     return out;
 }
 

@@ -19,13 +19,18 @@ TEST(WashColorHex, ReadsWhatPeopleWrite) {
         WashColor colour;
     };
     const Row rows[] = {
-        {"#FFAA00", {1, 170.0 / 255, 0, 1}},      {"  #ffaa00\n", {1, 170.0 / 255, 0, 1}},
-        {"fa0", {1, 170.0 / 255, 0, 1}},          {"#ffaa0080", {1, 170.0 / 255, 0, 128.0 / 255}},
-        {"ffaa00ff", {1, 170.0 / 255, 0, 1}},     {"0xFFAA00", {1, 170.0 / 255, 0, 1}},
-        {"#0xffaa00", {1, 170.0 / 255, 0, 1}},    {"0XfA0", {1, 170.0 / 255, 0, 1}},
+        {"#FFAA00", {1, 170.0 / 255, 0, 1}},
+        {"  #ffaa00\n", {1, 170.0 / 255, 0, 1}},
+        {"fa0", {1, 170.0 / 255, 0, 1}},
+        {"#ffaa0080", {1, 170.0 / 255, 0, 128.0 / 255}},
+        {"ffaa00ff", {1, 170.0 / 255, 0, 1}},
+        {"0xFFAA00", {1, 170.0 / 255, 0, 1}},
+        {"#0xffaa00", {1, 170.0 / 255, 0, 1}},
+        {"0XfA0", {1, 170.0 / 255, 0, 1}},
         {"\xC2\xA0#000\xE2\x80\xA8", {0, 0, 0, 1}}, // no-break space, line separator
     };
-    for (const auto& [text, colour] : rows) EXPECT_EQ(WashColor::fromHex(text), colour) << text;
+    for (const auto& [text, colour] : rows)
+        EXPECT_EQ(WashColor::fromHex(text), colour) << text;
     for (const char* bad : {"", "#", "#fa08", "#ffaa0", "#gg0000", "+fa0", "-ffaa0", "##ffaa00",
                             "0x0xffaa00", "#ff aa0", "#ffaa00ff0"})
         EXPECT_EQ(WashColor::fromHex(bad), std::nullopt) << bad;

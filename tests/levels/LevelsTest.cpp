@@ -20,7 +20,9 @@ struct Include {
     std::string file, includedFolder, folder;
 };
 
-std::string topOf(const fs::path& path) { return path.begin()->string(); }
+std::string topOf(const fs::path& path) {
+    return path.begin()->string();
+}
 
 /// The includes between folders of the source tree, in every file of the levelled folders.
 std::vector<Include> includes() {
