@@ -1,4 +1,5 @@
 #include "palettes/PaletteFile.h"
+#include "platform/ColourList.h"
 #include "platform/File.h"
 #include "platform/Number.h"
 
@@ -8,6 +9,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace tintra {
 namespace {
@@ -61,17 +63,29 @@ std::string gplFile(int lines) {
 
 void readAse(benchmark::State& state) {
     const auto file = aseFile(kSwatches);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(PaletteFile::ase(asBytes(file)));
 }
 BENCHMARK(readAse)->Unit(benchmark::kMillisecond);
 
 void readGpl(benchmark::State& state) {
     const auto file = gplFile(kSwatches);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(PaletteFile::gpl(asBytes(file)));
 }
 BENCHMARK(readGpl)->Unit(benchmark::kMillisecond);
+
+/// A keyed archive of a fifth as many colours.
+void readClr(benchmark::State& state) {
+    std::vector<ColourListEntry> entries;
+    for (int i = 0; i < kSwatches / 5; ++i)
+        entries.push_back({nameOf(i), {ColourSpace::sRGB(), {i / 1e4, 0.5, 0.25}, 1}});
+    const auto file = writeColourList(entries);
+    if (!file) std::abort();
+    for ([[maybe_unused]] auto _ : state)
+        benchmark::DoNotOptimize(PaletteFile::clr(*file));
+}
+BENCHMARK(readClr)->Unit(benchmark::kMillisecond);
 
 /// A folder of small palettes that goes away with its owner.
 class Folder {
@@ -102,7 +116,7 @@ private:
 
 void readThousandFiles(benchmark::State& state) {
     const Folder folder;
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         for (const auto& file : folder.files())
             benchmark::DoNotOptimize(PaletteFile::readNamed(file));
 }

@@ -1,22 +1,20 @@
 #include "platform/ColourList.h"
 #include "platform/Number.h"
+#include "platform/colourlist/ArchiveBuilder.h"
 #include "platform/colourlist/ColourListReaders.h"
-#include "platform/colourlist/PropertyList.h"
 
 #include <algorithm>
 #include <cmath>
-#include <initializer_list>
 
 namespace tintra {
 
 namespace {
 
-using colourlist::PlistHandle;
+using namespace colourlist;
 
 constexpr int kCalibratedRgb = 1;
 constexpr int kSrgbId = 7;
 constexpr int kExtendedSrgbSpaceId = 14;
-constexpr int kArchiveVersion = 100000;
 
 /// At most ten decimals, as the system writes them, without the zeros at the end.
 void appendDecimal(std::string& out, double value) {
@@ -34,64 +32,6 @@ std::string decimals(const Components& rgb) {
         appendDecimal(text, rgb[i]);
     return text;
 }
-
-plist_t dataNode(std::string_view bytes) {
-    return plist_new_data(bytes.data(), bytes.size());
-}
-
-plist_t reference(std::uint64_t object) {
-    return plist_new_uid(object);
-}
-
-/// The objects of an archive in the making; everything added belongs to the builder.
-class ArchiveBuilder {
-public:
-    ArchiveBuilder() : root_(plist_new_dict()), objects_(plist_new_array()) {
-        plist_dict_set_item(root_.get(), "$version", plist_new_uint(kArchiveVersion));
-        plist_dict_set_item(root_.get(), "$archiver", plist_new_string("NSKeyedArchiver"));
-        plist_dict_set_item(root_.get(), "$objects", objects_);
-        add(plist_new_string("$null"));
-    }
-
-    /// The number by which others refer to the object.
-    std::uint64_t add(plist_t object) {
-        plist_array_append_item(objects_, object);
-        return count_++;
-    }
-
-    /// The first of `names` is the class, the others what it descends from.
-    std::uint64_t addClass(std::initializer_list<const char*> names) {
-        auto* const described = plist_new_dict();
-        plist_dict_set_item(described, "$classname", plist_new_string(*names.begin()));
-        auto* const chain = plist_new_array();
-        for (const char* name : names)
-            plist_array_append_item(chain, plist_new_string(name));
-        plist_dict_set_item(described, "$classes", chain);
-        return add(described);
-    }
-
-    void setTop(const char* key, std::uint64_t object) {
-        if (plist_dict_get_item(root_.get(), "$top") == nullptr)
-            plist_dict_set_item(root_.get(), "$top", plist_new_dict());
-        plist_dict_set_item(plist_dict_get_item(root_.get(), "$top"), key, reference(object));
-    }
-
-    std::optional<Bytes> binary() const {
-        char* bytes = nullptr;
-        std::uint32_t length = 0;
-        plist_to_bin(root_.get(), &bytes, &length);
-        if (bytes == nullptr) return std::nullopt;
-        const auto view = asBytes(std::string_view(bytes, length));
-        Bytes copy(view.begin(), view.end());
-        plist_to_bin_free(bytes);
-        return copy;
-    }
-
-private:
-    PlistHandle root_;
-    plist_t objects_; // belongs to the root
-    std::uint64_t count_ = 0;
-};
 
 /// A colour in sRGB, components perhaps beyond 0...1.
 struct SrgbColour {
@@ -139,7 +79,7 @@ std::string srgbValues(const SrgbColour& colour) {
 class ListArchive {
 public:
     void add(const std::string& key, const SrgbColour& colour) {
-        const auto text = colourlist::repairedUtf8(key);
+        const auto text = repairedUtf8(key);
         keys_.push_back(builder_.add(plist_new_string(text.c_str())));
         colours_.push_back(builder_.add(colourNode(colour)));
     }
@@ -160,8 +100,8 @@ private:
         plist_dict_set_item(node, "NSColorSpace", plist_new_uint(kCalibratedRgb));
         plist_dict_set_item(node, "NSRGB", dataNode(genericValues(colour)));
         plist_dict_set_item(node, "NSComponents", dataNode(srgbValues(colour)));
-        plist_dict_set_item(node, "NSCustomColorSpace", reference(space));
-        plist_dict_set_item(node, "$class", reference(colourClass_));
+        plist_dict_set_item(node, "NSCustomColorSpace", referenceNode(space));
+        plist_dict_set_item(node, "$class", referenceNode(colourClass_));
         return node;
     }
 
@@ -170,8 +110,8 @@ private:
         if (space) return *space;
         auto* const node = plist_new_dict();
         plist_dict_set_item(node, key, plist_new_uint(static_cast<std::uint64_t>(id)));
-        plist_dict_set_item(node, "NSICC", reference(profile()));
-        plist_dict_set_item(node, "$class", reference(spaceClass_));
+        plist_dict_set_item(node, "NSICC", referenceNode(profile()));
+        plist_dict_set_item(node, "$class", referenceNode(spaceClass_));
         space = builder_.add(node);
         return *space;
     }
@@ -184,10 +124,10 @@ private:
     std::uint64_t addArray(const std::vector<std::uint64_t>& members, std::uint64_t arrayClass) {
         auto* const references = plist_new_array();
         for (const auto member : members)
-            plist_array_append_item(references, reference(member));
+            plist_array_append_item(references, referenceNode(member));
         auto* const node = plist_new_dict();
         plist_dict_set_item(node, "NS.objects", references);
-        plist_dict_set_item(node, "$class", reference(arrayClass));
+        plist_dict_set_item(node, "$class", referenceNode(arrayClass));
         return builder_.add(node);
     }
 

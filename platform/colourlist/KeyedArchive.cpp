@@ -35,7 +35,7 @@ std::optional<std::vector<double>> componentsIn(std::string_view text) {
 /// The objects of an archive, which refer to each other by number.
 class Archive {
 public:
-    explicit Archive(PlistValue root) : top_(root["$top"]), objects_(root["$objects"]) {}
+    explicit Archive(PlistValue root) : top_(root["$top"]), objects_(root["$objects"].elements()) {}
 
     /// The dictionary that holds the keys and the colours.
     PlistValue list() const {
@@ -48,7 +48,8 @@ public:
     PlistValue resolved(PlistValue value) const {
         const auto number = value.uid();
         if (!number) return value;
-        return *number == 0 ? PlistValue() : objects_.at(*number); // object 0 is "$null"
+        const bool isObject = *number > 0 && *number < objects_.size(); // object 0 is "$null"
+        return isObject ? objects_[*number] : PlistValue();
     }
 
     PlistValue member(PlistValue object, const char* key) const { return resolved(object[key]); }
@@ -66,7 +67,8 @@ public:
     }
 
 private:
-    PlistValue top_, objects_;
+    PlistValue top_;
+    std::vector<PlistValue> objects_;
 };
 
 /// The profiles of an archive. Many colours may carry one profile, as one object or as copies.
@@ -140,19 +142,22 @@ private:
 std::optional<ColourList> readKeyedArchive(ByteView data) {
     const auto root = parsePropertyList(data);
     const Archive archive{PlistValue(root.get())};
-    const auto keys = archive.member(archive.member(archive.list(), "NSKeys"), "NS.objects");
-    const auto colours = archive.member(archive.member(archive.list(), "NSColors"), "NS.objects");
-    if (!keys || !colours) return std::nullopt;
+    const auto keyList = archive.member(archive.list(), "NSKeys");
+    const auto colourList = archive.member(archive.list(), "NSColors");
+    if (!keyList || !colourList) return std::nullopt;
+    const auto keys = archive.member(keyList, "NS.objects").elements();
+    const auto colours = archive.member(colourList, "NS.objects").elements();
 
     ColourList list;
     ArchivedColours reader(archive);
     // A key stands in a list once. Short references to one long text could fill the memory.
     std::unordered_set<const char*> seenKeys;
-    const auto count = std::max(keys.size(), colours.size());
-    for (std::uint32_t i = 0; i < count; ++i) {
-        const auto key = archive.text(archive.resolved(keys.at(i)));
+    const auto pairs = std::min(keys.size(), colours.size());
+    list.unusable = static_cast<int>(std::max(keys.size(), colours.size()) - pairs);
+    for (std::size_t i = 0; i < pairs; ++i) {
+        const auto key = archive.text(archive.resolved(keys[i]));
         const bool isNew = key && seenKeys.insert(key->data()).second;
-        auto colour = isNew ? reader.colour(archive.resolved(colours.at(i))) : std::nullopt;
+        auto colour = isNew ? reader.colour(archive.resolved(colours[i])) : std::nullopt;
         if (colour)
             list.entries.push_back({repairedUtf8(*key), std::move(*colour)});
         else

@@ -2,6 +2,8 @@
 
 #include "platform/colourlist/PropertyListChecks.h"
 
+#include <cstdlib>
+
 namespace tintra::colourlist {
 
 bool PlistValue::is(plist_type type) const {
@@ -42,13 +44,21 @@ PlistValue PlistValue::operator[](const char* key) const {
     return PlistValue(is(PLIST_DICT) ? plist_dict_get_item(node_, key) : nullptr);
 }
 
-std::uint32_t PlistValue::size() const {
-    return is(PLIST_ARRAY) ? plist_array_get_size(node_) : 0;
-}
-
-PlistValue PlistValue::at(std::uint64_t index) const {
-    if (index >= size()) return PlistValue();
-    return PlistValue(plist_array_get_item(node_, static_cast<std::uint32_t>(index)));
+std::vector<PlistValue> PlistValue::elements() const {
+    if (!is(PLIST_ARRAY)) return {};
+    std::vector<PlistValue> found;
+    found.reserve(plist_array_get_size(node_));
+    // By an iterator: asked for an index, libplist counts from the start of a parsed array.
+    plist_array_iter iterator = nullptr;
+    plist_array_new_iter(node_, &iterator);
+    const std::unique_ptr<void, decltype(&std::free)> owner(iterator, &std::free);
+    while (found.size() < found.capacity()) {
+        plist_t element = nullptr;
+        plist_array_next_item(node_, iterator, &element);
+        if (element == nullptr) break;
+        found.emplace_back(element);
+    }
+    return found;
 }
 
 PlistHandle parsePropertyList(ByteView data) {

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 // Property lists by libplist, with its nodes owned and its types checked. Internal to the
 // colour-list service.
@@ -32,10 +33,8 @@ public:
 
     /// The value under a key of a dictionary; absent for anything else.
     PlistValue operator[](const char* key) const;
-    /// The length of an array; 0 for anything else.
-    std::uint32_t size() const;
-    /// The element of an array; absent past the end and for anything else.
-    PlistValue at(std::uint64_t index) const;
+    /// The elements of an array; none for anything else.
+    std::vector<PlistValue> elements() const;
 
 private:
     bool is(plist_type type) const;
