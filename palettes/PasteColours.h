@@ -27,7 +27,8 @@ std::optional<WashColor> codeColour(std::string_view in);
 /// Eight hexadecimal digits as alpha, red, green, blue.
 std::optional<WashColor> argb(std::string_view text);
 
-/// The numbers after the first place of the keyword; nothing when the keyword is absent.
+/// The numbers after the first place of the keyword that no letter, digit, "_" or "-" touches;
+/// nothing when there is no such place. Integers and decimals, without exponents.
 std::optional<std::vector<double>> numbers(std::string_view afterKeyword, std::string_view in);
 
 /// Every number of the text, in order.

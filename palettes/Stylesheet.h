@@ -20,12 +20,13 @@ std::span<const std::string_view> extensions();
 /// begins with the declaration of a custom property or a preprocessor variable.
 bool looksLikeStylesheet(std::string_view text);
 
-/// The colours of every declaration in reading order, each identity once; a colour that a variable
-/// holds is named after the first one.
+/// The colours of every declaration in reading order, each identity once. The first declaration
+/// that holds a colour names it when it is a variable.
 std::vector<PaletteFile::Swatch> read(std::string_view text);
 
-/// Whether the Library lists the file as a palette: at most a million bytes, not minified, and a
-/// variable holds a colour. The verdict is kept with the file's modification date.
+/// Whether the Library lists the file as a palette: a regular file of at most a million bytes of
+/// UTF-8, not minified, and a variable holds a colour. The verdict is kept with the file's
+/// modification date; a file that cannot be read is tried again.
 bool isPalette(const std::filesystem::path& file);
 
 /// A variable's name made readable: "--brand-primaryDark" is "Brand Primary Dark".

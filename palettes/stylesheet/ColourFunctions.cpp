@@ -122,11 +122,11 @@ std::optional<WashColor> inNamedSpace(std::string_view arguments) {
     if (space != "srgb" && space != "display-p3") return std::nullopt;
     const auto c = components(arguments);
     if (!c) return std::nullopt;
-    const Rgb channels{(*c)[0].over(1), (*c)[1].over(1), (*c)[2].over(1)};
-    const auto srgb = space == "srgb" ? channels : srgbFromDisplayP3(channels);
-    if (!std::isfinite(srgb.r) || !std::isfinite(srgb.g) || !std::isfinite(srgb.b))
-        return std::nullopt;
-    return WashColor::fromRgb(srgb, c->alpha());
+    const double r = (*c)[0].over(1), g = (*c)[1].over(1), b = (*c)[2].over(1);
+    const auto colour = space == "srgb" ? WashColor{r, g, b, c->alpha()} : p3(r, g, b, c->alpha());
+    const bool isFinite =
+        std::isfinite(colour.r) && std::isfinite(colour.g) && std::isfinite(colour.b);
+    return isFinite ? std::optional(colour) : std::nullopt;
 }
 
 struct FunctionRow {

@@ -31,10 +31,10 @@ Rgb product(const Matrix3& m, const Rgb& v) {
 
 } // namespace
 
-Rgb srgbFromDisplayP3(const Rgb& p3) {
-    const Rgb linear{srgbDecoded(p3.r), srgbDecoded(p3.g), srgbDecoded(p3.b)};
+WashColor p3(double r, double g, double b, double alpha) {
+    const Rgb linear{srgbDecoded(r), srgbDecoded(g), srgbDecoded(b)};
     const auto srgb = product(kXyzToRgb, product(kP3ToXyz, linear));
-    return {srgbEncoded(srgb.r), srgbEncoded(srgb.g), srgbEncoded(srgb.b)};
+    return {srgbEncoded(srgb.r), srgbEncoded(srgb.g), srgbEncoded(srgb.b), alpha};
 }
 
 } // namespace tintra::stylesheet

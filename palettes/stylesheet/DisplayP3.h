@@ -1,10 +1,10 @@
 #pragma once
 
-#include "colour/Hsb.h"
+#include "colour/WashColor.h"
 
 namespace tintra::stylesheet {
 
-/// Gamma-encoded sRGB, unclamped, of gamma-encoded Display P3 (CSS Color 4, sections 10 and 18).
-Rgb srgbFromDisplayP3(const Rgb& p3);
+/// A colour given in gamma-encoded Display P3 (CSS Color 4); outside sRGB where it lies there.
+WashColor p3(double r, double g, double b, double alpha);
 
 } // namespace tintra::stylesheet

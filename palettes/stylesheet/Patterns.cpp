@@ -8,10 +8,11 @@ namespace tintra::stylesheet {
 
 namespace {
 
-// In the library's units: steps of some 10,000 moves each, and bytes. A megabyte of the worst value
-// takes less than a tenth of either.
-constexpr std::int32_t kTimeLimit = 5'000;
-constexpr std::int32_t kStackLimit = 1'000'000;
+// The library counts time in steps of some 10,000 moves, summed up over a text. The searches here
+// are linear: the worst text takes less than a step for 1,000 units, and none needs 10 kB of stack.
+constexpr std::int32_t kLeastSteps = 1'000;
+constexpr std::int32_t kUnitsOfAStep = 500;
+constexpr std::int32_t kStackBytes = 1'000'000;
 
 /// The compiled expression, which any number of threads may match at once; null when it does not
 /// compile. It is kept for the life of the process.
@@ -37,8 +38,7 @@ std::unique_ptr<icu::RegexMatcher> matcherFor(std::string_view pattern, LetterCa
     UErrorCode status = U_ZERO_ERROR;
     std::unique_ptr<icu::RegexMatcher> matcher(expression->matcher(status));
     if (!matcher) return nullptr;
-    matcher->setTimeLimit(kTimeLimit, status);
-    matcher->setStackLimit(kStackLimit, status);
+    matcher->setStackLimit(kStackBytes, status);
     return U_SUCCESS(status) ? std::move(matcher) : nullptr;
 }
 
@@ -46,7 +46,10 @@ std::unique_ptr<icu::RegexMatcher> matcherFor(std::string_view pattern, LetterCa
 
 void Finder::search(const icu::UnicodeString& text) {
     if (!matcher_) matcher_ = matcherFor(pattern_, letterCase_);
-    if (matcher_) matcher_->reset(text);
+    if (!matcher_) return;
+    UErrorCode status = U_ZERO_ERROR;
+    matcher_->setTimeLimit(kLeastSteps + text.length() / kUnitsOfAStep, status);
+    matcher_->reset(text);
 }
 
 bool Finder::next() {

@@ -122,11 +122,8 @@ TEST(PasteColours, ReadsBareNumbersAndNames) {
 }
 
 TEST(PasteColours, KeepsTheLinesThatHoldAColour) {
-    const auto colours = PasteColours::parse("#f00\r\n\n none \rred\xE2\x80\xA8#00f");
-    std::vector<std::string> identities;
-    for (const auto& colour : colours)
-        identities.push_back(colour.identity());
-    EXPECT_THAT(identities, ElementsAre("FF0000FF", "FF0000FF", "0000FFFF"));
+    EXPECT_THAT(PasteColours::parse("#f00\r\n\n none \rred\xE2\x80\xA8#00f"),
+                ElementsAre(WashColor{1, 0, 0, 1}, WashColor{1, 0, 0, 1}, WashColor{0, 0, 1, 1}));
 }
 
 TEST(PasteColours, FindsNumbersBehindAKeyword) {

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <fstream>
 #include <string>
@@ -66,7 +67,7 @@ TEST(Stylesheet, TellsDeclarationsFromTheRest) {
         {"@import url(x:red); @include m($c: #111); @theme: { @in: #222 }", "In 222222"},
         {"a#{$b + '{;'}c { color: #{d} #111; $e: #222 }", "- 111111, E 222222"},
         {"$a: url(data:x;base64,{red}) #111; $b: #222;", "A 111111, B 222222"},
-        {"$a: \"x; $c: red; {\" #111; $b: '\\'; $d: red' #222;", "A 111111, B 222222"},
+        {R"($a: "x; $c: red; {" #111; $b: '\'; $d: red' #222;)", "A 111111, B 222222"},
         {"$a: \"open #111;\n$b: #222;", "A 111111, B 222222"},   // a string ends with its line
         {"a { --a: rgb(1, 2, 3; } b { --b: #222 }", "B 222222"}, // a block ends its parentheses
         {".m(@a: #111; @b: #222) { color: #333 }", "- 333333"},
@@ -210,11 +211,12 @@ protected:
     void TearDown() override { std::filesystem::remove_all(folder_); }
     std::filesystem::path write(const char* name, std::string_view content) {
         std::filesystem::create_directories(folder_);
-        const auto file = folder_ / name;
+        auto file = folder_ / name;
         std::ofstream(file, std::ios::binary) << content;
         return file;
     }
-    std::filesystem::path folder_ = testing::TempDir() + "tintra_is_palette";
+    std::filesystem::path folder_ =
+        testing::TempDir() + "tintra-is-palette-" + std::to_string(getpid());
 };
 
 TEST_F(IsPalette, WantsAVariableWithAColour) {
