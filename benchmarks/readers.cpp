@@ -78,6 +78,7 @@ BENCHMARK(readGpl)->Unit(benchmark::kMillisecond);
 /// A keyed archive of a fifth as many colours.
 void readClr(benchmark::State& state) {
     std::vector<ColourListEntry> entries;
+    entries.reserve(kSwatches / 5);
     for (int i = 0; i < kSwatches / 5; ++i)
         entries.push_back({nameOf(i), {ColourSpace::sRGB(), {i / 1e4, 0.5, 0.25}, 1}});
     const auto file = writeColourList(entries);

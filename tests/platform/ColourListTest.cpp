@@ -124,7 +124,7 @@ TEST(KeyedArchive, OpensProfilesAndKeepsDisplayP3) {
 }
 
 TEST(KeyedArchive, RefusesWhatUnfoldsWithoutBound) {
-    const std::string head = "<?xml version=\"1.0\"?><plist version=\"1.0\">";
+    const std::string head = R"(<?xml version="1.0"?><plist version="1.0">)";
     std::string deep = head, references = head + "<string>";
     for (int i = 0; i < 150'000; ++i)
         deep += "<array>";
@@ -144,7 +144,7 @@ TEST(KeyedArchive, RefusesWhatUnfoldsWithoutBound) {
     for (const auto& bad : {asBytes(deep), asBytes(references), ByteView(doubling.built())})
         EXPECT_FALSE(readColourList(bad));
     auto entities = archive({basic(2) + key("NSRGB", kHalfRed)});
-    entities.replace(entities.find("PUBLIC"), 6, "[<!ENTITY a \"b\">]");
+    entities.replace(entities.find("PUBLIC"), 6, R"([<!ENTITY a "b">])");
     EXPECT_FALSE(readColourList(asBytes(entities)));
 }
 
