@@ -24,7 +24,7 @@ std::string mixedStylesheet() {
             "linear-gradient(to right, " + hex + ", rgba(0, 0, " + n(3, 256) + ", 0.5) 40%)",
             "0 0 " + n(1, 20) + "px " + hex + " !important",
         };
-        text += "  --brand-colour-" + tintra::shortest(i) + ": " +
+        text += "  --brand-" + tintra::shortest(i) + ": " +
                 values[static_cast<std::size_t>(i) % values.size()] + "; // step\n";
     }
     return text + "}\n";

@@ -1,12 +1,12 @@
 #include "palettes/Stylesheet.h"
 
 #include "platform/ColourSpace.h"
+#include "tests/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <fstream>
+#include <chrono>
 #include <string>
 
 namespace tintra {
@@ -206,36 +206,31 @@ TEST(Stylesheet, TakesAnyBytesInLinearTime) {
     EXPECT_EQ(read(std::string("$a:\0#111;\0$b:#222;", 18)), "A 111111, - 222222");
 }
 
-class IsPalette : public testing::Test {
-protected:
-    void TearDown() override { std::filesystem::remove_all(folder_); }
-    std::filesystem::path write(const char* name, std::string_view content) {
-        std::filesystem::create_directories(folder_);
-        auto file = folder_ / name;
-        std::ofstream(file, std::ios::binary) << content;
-        return file;
-    }
-    std::filesystem::path folder_ =
-        testing::TempDir() + "tintra-is-palette-" + std::to_string(getpid());
-};
-
-TEST_F(IsPalette, WantsAVariableWithAColour) {
-    EXPECT_TRUE(Stylesheet::isPalette(write("a.css", "--a: red;")));
-    EXPECT_FALSE(Stylesheet::isPalette(write("b.css", "a { color: red }")));
-    EXPECT_FALSE(Stylesheet::isPalette(write("a.MIN.css", "--a: red;")));
-    EXPECT_FALSE(Stylesheet::isPalette(write("c.css", "--a: red; \xFF")));
-    EXPECT_FALSE(Stylesheet::isPalette(folder_ / "none.css"));
-    EXPECT_FALSE(Stylesheet::isPalette(folder_));
+TEST(IsPalette, WantsAVariableWithAColour) {
+    const TemporaryFolder folder;
     const std::string blanks(1'000'000 - 9, ' ');
-    EXPECT_TRUE(Stylesheet::isPalette(write("d.css", "--a: red;" + blanks)));
-    EXPECT_FALSE(Stylesheet::isPalette(write("e.css", "--a: red; " + blanks)));
+    struct FileRow {
+        const char* name;
+        std::string content;
+        bool isPalette;
+    };
+    const FileRow rows[] = {
+        {"variable.css", "--a: red;", true},         {"plain.css", "a { color: red }", false},
+        {"variable.MIN.css", "--a: red;", false},    {"latin.css", "--a: red; \xFF", false},
+        {"largest.css", "--a: red;" + blanks, true}, {"larger.css", "--a: red; " + blanks, false},
+    };
+    for (const auto& [name, content, isPalette] : rows)
+        EXPECT_EQ(Stylesheet::isPalette(folder.write(name, content)), isPalette) << name;
+    EXPECT_FALSE(Stylesheet::isPalette(folder / "none.css"));
+    EXPECT_FALSE(Stylesheet::isPalette(folder.path()));
 }
 
-TEST_F(IsPalette, KeepsItsVerdictUntilTheDateChanges) {
-    const auto file = write("a.css", "--a: red;");
+TEST(IsPalette, KeepsItsVerdictUntilTheDateChanges) {
+    const TemporaryFolder folder;
+    const auto file = folder.write("a.css", "--a: red;");
     const auto date = std::filesystem::last_write_time(file);
     EXPECT_TRUE(Stylesheet::isPalette(file));
-    write("a.css", "a { color: red }");
+    folder.write("a.css", "a { color: red }");
     std::filesystem::last_write_time(file, date);
     EXPECT_TRUE(Stylesheet::isPalette(file));
     std::filesystem::last_write_time(file, date + std::chrono::seconds(1));
