@@ -33,7 +33,7 @@ std::string mixedStylesheet() {
 void readStylesheet(benchmark::State& state) {
     const auto text = mixedStylesheet();
     std::size_t swatches = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const auto read = tintra::Stylesheet::read(text);
         swatches = read.size();
         benchmark::DoNotOptimize(read.data());
