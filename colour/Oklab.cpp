@@ -1,5 +1,7 @@
 #include "colour/Oklab.h"
 
+#include "colour/CubeRoot.h"
+
 #include <cmath>
 
 namespace tintra {
@@ -19,9 +21,9 @@ double cubed(double v) {
 
 Oklab oklabFromLinear(const Rgb& linear) {
     const auto& [r, g, b] = linear;
-    const double l = std::cbrt(dot(kRgbToLms[0], r, g, b));
-    const double m = std::cbrt(dot(kRgbToLms[1], r, g, b));
-    const double s = std::cbrt(dot(kRgbToLms[2], r, g, b));
+    const double l = cubeRoot(dot(kRgbToLms[0], r, g, b));
+    const double m = cubeRoot(dot(kRgbToLms[1], r, g, b));
+    const double s = cubeRoot(dot(kRgbToLms[2], r, g, b));
     return {dot(kLmsToOklab[0], l, m, s), dot(kLmsToOklab[1], l, m, s),
             dot(kLmsToOklab[2], l, m, s)};
 }

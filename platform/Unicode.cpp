@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 
 namespace tintra {
@@ -55,6 +56,17 @@ bool isAscii(std::string_view text) {
                        [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
+/// How many ASCII characters follow, counted by the eight: most text is nothing else.
+std::size_t asciiAt(std::string_view text, std::size_t from) {
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    auto at = from;
+    for (std::uint64_t word = 0; text.size() - at >= sizeof word; at += sizeof word) {
+        std::memcpy(&word, text.data() + at, sizeof word);
+        if ((word & kHighBits) != 0) break;
+    }
+    return at - from;
+}
+
 const icu::Collator* numberAware() {
     // A collator may compare from many threads once it is set up.
     static const auto collator = [] {
@@ -72,6 +84,8 @@ const icu::Collator* numberAware() {
 bool isValidUtf8(std::string_view text) {
     const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
     for (std::size_t at = 0; at < text.size();) {
+        at += asciiAt(text, at);
+        if (at == text.size()) break;
         UChar32 character = 0;
         U8_NEXT(bytes, at, text.size(), character);
         if (character < 0) return false;
