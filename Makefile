@@ -51,7 +51,7 @@ lint:
 	@scripts/install-packages build test lint
 	$(CLANG_FORMAT) --dry-run --Werror $(SOURCES)
 	@scripts/build debug
-	git ls-files '*.cpp' ':!fuzz' | xargs -P $(JOBS) -n 4 $(CLANG_TIDY) --quiet -p build/debug
+	git ls-files '*.cpp' ':!fuzz' ':!benchmarks' | xargs -P $(JOBS) -n 4 $(CLANG_TIDY) --quiet -p build/debug
 
 install:
 	@scripts/install-packages build
