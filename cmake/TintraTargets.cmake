@@ -32,13 +32,26 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 
 # tintra_library(NAME LIBRARY...): one library a folder, from every source file below it but those
-# of programs, which stand in a subfolder of that name.
+# of programs and of modules, which stand in subfolders of their own.
 function(tintra_library name)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
-    list(FILTER sources EXCLUDE REGEX "/program/")
+    list(FILTER sources EXCLUDE REGEX "/(program|desktop)/")
     add_library(tintra_${name} STATIC ${sources})
     add_library(Tintra::${name} ALIAS tintra_${name})
     target_link_libraries(tintra_${name} PUBLIC tintra_options ${ARGN})
+endfunction()
+
+# tintra_module(NAME LIBRARY...): a library that programs load while they run, from the folder NAME.
+function(tintra_module name)
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+    add_library(tintra_${name}_module MODULE ${sources})
+    target_link_libraries(tintra_${name}_module PRIVATE tintra_options ${ARGN})
+    set_target_properties(
+        tintra_${name}_module
+        PROPERTIES OUTPUT_NAME tintra-${name}
+                   CXX_VISIBILITY_PRESET hidden
+                   LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/lib/tintra)
+    install(TARGETS tintra_${name}_module DESTINATION lib/tintra)
 endfunction()
 
 # tintra_test(NAME LIBRARY...): one test program a folder; each of its cases is a CTest test.

@@ -20,6 +20,12 @@ void addAbsolute(std::vector<fs::path>& folders, const fs::path& folder) {
     if (folder.is_absolute()) folders.push_back(folder);
 }
 
+/// The folder above the one of the running program, whether that is installed or just built.
+fs::path installation() {
+    std::error_code failed;
+    return fs::read_symlink("/proc/self/exe", failed).parent_path().parent_path();
+}
+
 } // namespace
 
 fs::path homeFolder() {
@@ -41,9 +47,11 @@ std::vector<fs::path> dataFolders() {
 }
 
 fs::path shippedFile(const fs::path& name) {
-    std::error_code failed;
-    const auto program = fs::read_symlink("/proc/self/exe", failed);
-    return program.parent_path().parent_path() / "share/tintra" / name;
+    return installation() / "share/tintra" / name;
+}
+
+fs::path shippedModule(const fs::path& name) {
+    return installation() / "lib/tintra" / name;
 }
 
 } // namespace tintra

@@ -16,4 +16,7 @@ std::vector<std::filesystem::path> dataFolders();
 /// whether it is installed or stands in a build folder.
 std::filesystem::path shippedFile(const std::filesystem::path& name);
 
+/// A library that the program loads while running, in `lib/tintra` beside its folder.
+std::filesystem::path shippedModule(const std::filesystem::path& name);
+
 } // namespace tintra

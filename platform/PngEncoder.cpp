@@ -13,7 +13,7 @@ namespace {
 // The encoder's library reports an error by a long jump, which runs no destructors. So each call
 // into it stands in a small function of its own that arms the jump and holds nothing to destroy.
 
-constexpr std::size_t kLongestSide = 1'000'000;
+constexpr int kLongestSide = 1'000'000;
 static_assert(sizeof(Rgba8) == 4);
 
 void fail(png_structp png, png_const_charp /*why*/) {
@@ -80,8 +80,8 @@ public:
         if (!writeHeader(png_, info_, static_cast<std::uint32_t>(size.width),
                          static_cast<std::uint32_t>(size.height)))
             return false;
-        std::vector<Rgba8> row(size.width);
-        for (std::size_t y = 0; y < size.height; ++y) {
+        std::vector<Rgba8> row(static_cast<std::size_t>(size.width));
+        for (std::size_t y = 0; y < static_cast<std::size_t>(size.height); ++y) {
             paint(y, row);
             if (!writeRow(png_, row.data())) return false;
         }
@@ -96,7 +96,7 @@ private:
 } // namespace
 
 std::optional<Bytes> encodePng(PictureSize size, const PaintRow& paint) {
-    const auto usable = [](std::size_t side) { return side > 0 && side <= kLongestSide; };
+    const auto usable = [](int side) { return side > 0 && side <= kLongestSide; };
     if (!usable(size.width) || !usable(size.height)) return std::nullopt;
     Bytes out;
     if (!Encoder(out).write(size, paint)) return std::nullopt;

@@ -1,25 +1,14 @@
 #pragma once
 
 #include "platform/Bytes.h"
+#include "platform/Pixels.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <functional>
 #include <optional>
 #include <span>
 
 namespace tintra {
-
-/// A pixel of a picture: sRGB, alpha not multiplied in. All zero is transparent.
-struct Rgba8 {
-    std::uint8_t r = 0, g = 0, b = 0, a = 0;
-    bool operator==(const Rgba8&) const = default;
-};
-
-/// In pixels.
-struct PictureSize {
-    std::size_t width = 0, height = 0;
-};
 
 /// Fills row `y` of a picture; called once a row from the top. `row` is as wide as the picture and
 /// holds what the call before left there. What it throws passes through the encoder.

@@ -45,7 +45,9 @@ std::optional<Bytes> PaletteExport::png(std::span<const Entry> entries) {
         for (std::size_t at = 0; at < std::min(line.size(), grid.columns); ++at)
             std::fill_n(row.subspan(at * grid.side).begin(), grid.side, pixelOf(line[at].color));
     };
-    return encodePng({grid.columns * grid.side, grid.rows * grid.side}, paint);
+    return encodePng(
+        {static_cast<int>(grid.columns * grid.side), static_cast<int>(grid.rows * grid.side)},
+        paint);
 }
 
 } // namespace tintra
