@@ -52,8 +52,10 @@ const std::vector<Command>& table() {
         {"vision",
          "Colours as people with a colour-vision deficiency see them",
          "Prints the colour that an observer with protanopia, deuteranopia, tritanopia or "
-         "achromatopsia sees for each colour.",
-         {{"tintra vision deuteranopia red green", "two colours that become alike"}},
+         "achromatopsia sees for each colour. With --picture a whole picture is shown that way and "
+         "written as PNG.",
+         {{"tintra vision deuteranopia red green", "two colours that become alike"},
+          {"tintra vision protanopia --picture chart.png -o seen.png", "a picture"}},
          declareVision},
         {"read",
          "The swatches of palette files",
@@ -72,6 +74,15 @@ const std::vector<Command>& table() {
           {"tintra convert *.aco --to gpl --out-dir palettes", "many files"},
           {"tintra convert brand.clr -o - --to css", "to standard output"}},
          declareConvert},
+        {"extract",
+         "The colours of pictures",
+         "Finds the representative colours of each picture: PNG, JPEG, WebP, TIFF, GIF, BMP, SVG, "
+         "AVIF or HEIC. Each line is a colour, the share of the picture it stands for and its "
+         "nearest name. With -o the colours of all pictures are written as one palette.",
+         {{"tintra extract photo.jpg", "eight colours"},
+          {"tintra extract *.png --count 5 --emphasis vibrant", "five strong colours of each"},
+          {"tintra extract poster.svg -o poster.ase", "a palette file"}},
+         declareExtract},
         {"formats",
          "The formats that can be chosen",
          "Lists the formats of code (for “tintra code”) and of palette files (for “tintra "

@@ -44,6 +44,7 @@ Action declareMix(Declaration& declaration);
 Action declareVision(Declaration& declaration);
 Action declareRead(Declaration& declaration);
 Action declareConvert(Declaration& declaration);
+Action declareExtract(Declaration& declaration);
 Action declareFormats(Declaration& declaration);
 Action declareProfiles(Declaration& declaration);
 

@@ -1,11 +1,8 @@
 #include "cli/Commands.h"
 #include "cli/PaletteInput.h"
-#include "palettes/PaletteExport.h"
-#include "platform/File.h"
-#include "platform/Unicode.h"
+#include "cli/PaletteOutput.h"
 
 #include <fmt/format.h>
-#include <fmt/ranges.h>
 
 #include <filesystem>
 #include <set>
@@ -22,84 +19,28 @@ struct ConvertOptions {
     bool force = false;
 };
 
-/// What is to be written where; "-" is standard output.
-struct Output {
-    std::string file;
-    ExportFormat format;
-    std::string name;
-};
-
-/// Colours and their names in two lists, as the writers take them.
-struct Palette {
-    std::vector<WashColor> colours;
-    std::vector<std::optional<std::string>> names;
-
-    void add(const PaletteInput& input) {
-        for (const auto& swatch : input.swatches) {
-            colours.push_back(swatch.color);
-            names.push_back(swatch.name);
-        }
+void add(OutputPalette& palette, const PaletteInput& input) {
+    for (const auto& swatch : input.swatches) {
+        palette.colours.push_back(swatch.color);
+        palette.names.push_back(swatch.name);
     }
-};
-
-/// Translucent swatches lose their alpha in most formats; whoever converts should know.
-void noticeLostAlpha(Session& session, const Output& output, const Palette& palette) {
-    if (holdsAlpha(output.format)) return;
-    std::vector<std::string> translucent;
-    const auto entries = PaletteExport::entries(palette.colours, palette.names);
-    for (const auto& entry : entries)
-        if (!entry.color.isOpaque()) translucent.push_back(entry.name);
-    if (translucent.empty()) return;
-    session.notice(output.file, fmt::format("{} holds no alpha: {} saved opaque",
-                                            upperCased(fileExtension(output.format)),
-                                            fmt::join(translucent, ", ")));
-}
-
-void write(Session& session, const Output& output, const Palette& palette, Existing existing) {
-    const auto data = PaletteExport::data(output.format, palette.colours, palette.names,
-                                          output.name, FormatOptions{});
-    if (!data) {
-        session.failure(output.file, fmt::format("Nothing to write for {}", title(output.format)));
-        return;
-    }
-    if (output.file == "-") {
-        session.print(asText(*data));
-        return;
-    }
-    if (const auto error = writeFile(output.file, *data, existing)) {
-        const bool exists = existing == Existing::refuse && fs::exists(output.file);
-        session.failure(output.file, exists ? error->why + " (--force replaces it)" : error->why);
-        return;
-    }
-    noticeLostAlpha(session, output, palette);
-}
-
-ExportFormat formatOf(const ConvertOptions& options) {
-    if (!options.to.empty()) return *exportFormat(options.to);
-    const auto extension = fs::path(options.out).extension().string();
-    const auto format =
-        exportFormatForExtension(std::string_view(extension).substr(extension.empty() ? 0 : 1));
-    if (!format)
-        throw UsageError{
-            fmt::format("“{}” has no extension of a format; --to says which", options.out)};
-    return *format;
 }
 
 /// Several inputs become one palette.
 void convertTogether(Session& session, const ConvertOptions& options) {
-    const auto format = formatOf(options);
-    Palette palette;
+    const auto format = outputFormat(options.out, options.to);
+    OutputPalette palette;
     std::vector<std::string> names;
     forEachPalette(session, options.files, options.as, [&](const PaletteInput& input) {
-        palette.add(input);
+        add(palette, input);
         names.push_back(input.name);
     });
     if (names.empty()) return;
     auto name = options.name;
     if (name.empty() && (names.size() == 1 || options.out == "-")) name = names.front();
     if (name.empty()) name = fs::path(options.out).stem().string();
-    write(session, {options.out, format, name}, palette,
-          options.force ? Existing::replace : Existing::refuse);
+    writePalette(session, {options.out, format, name}, palette,
+                 options.force ? Existing::replace : Existing::refuse);
 }
 
 /// Where an input's own file goes: beside it, or into the folder that was named.
@@ -122,7 +63,7 @@ bool makeFolder(Session& session, const std::string& folder) {
 
 /// Every input becomes a file of its own.
 void convertEach(Session& session, const ConvertOptions& options) {
-    const auto format = formatOf(options);
+    const auto format = outputFormat(options.out, options.to);
     if (!makeFolder(session, options.outFolder)) return;
     std::set<std::string> written;
     forEachPalette(session, options.files, options.as, [&](const PaletteInput& input) {
@@ -131,10 +72,10 @@ void convertEach(Session& session, const ConvertOptions& options) {
             session.failure(input.file, fmt::format("{} is written by another input", file));
             return;
         }
-        Palette palette;
-        palette.add(input);
-        write(session, {file, format, options.name.empty() ? input.name : options.name}, palette,
-              options.force ? Existing::replace : Existing::refuse);
+        OutputPalette palette;
+        add(palette, input);
+        writePalette(session, {file, format, options.name.empty() ? input.name : options.name},
+                     palette, options.force ? Existing::replace : Existing::refuse);
     });
 }
 
@@ -149,13 +90,6 @@ void convert(Session& session, const ConvertOptions& options) {
         convertTogether(session, options);
 }
 
-std::vector<std::string> exportIds() {
-    std::vector<std::string> ids;
-    for (const auto format : allExportFormats())
-        ids.emplace_back(rawValue(format));
-    return ids;
-}
-
 } // namespace
 
 Action declareConvert(Declaration& declaration) {
@@ -164,7 +98,7 @@ Action declareConvert(Declaration& declaration) {
                            Takes::file);
     declaration.option("-o,--output", options->out, "OUT",
                        "Write one palette to this file; “-” is standard output", Takes::file);
-    declaration.choice("--to", options->to, exportIds(), "FORMAT", "Format to write");
+    declaration.choice("--to", options->to, formatChoices(), "FORMAT", "Format to write");
     declaration.option("--out-dir", options->outFolder, "DIR",
                        "With --to: write the files into this folder", Takes::folder);
     declaration.option("--name", options->name, "NAME",

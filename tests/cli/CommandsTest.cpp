@@ -1,4 +1,5 @@
 #include "cli/Run.h"
+#include "platform/PngEncoder.h"
 #include "tests/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
@@ -72,6 +73,9 @@ TEST(Commands, WrongUsageIsStatusTwoWithOneSentence) {
         {"mix", "red"},
         {"mix", "red", "blue", "--steps", "0"},
         {"vision", "colour-blind", "red"},
+        {"vision", "protanopia"},
+        {"vision", "protanopia", "red", "--picture", "a.png", "-o", "b.png"},
+        {"vision", "protanopia", "--picture", "a.png"},
         {"read", "--as", "word", "a.ase"},
         {"show", "red", "--rgb-profile", "CIE"},
         {"show", "red", "--cmyk-profile", "no such press"},
@@ -89,7 +93,7 @@ TEST(Commands, HelpStandsOnEveryLevelWithExamples) {
     EXPECT_THAT(tintra({"--help"}).out, HasSubstr("convert"));
     EXPECT_THAT(tintra({"--version"}).out, StartsWith("tintra "));
     for (const auto* command : {"show", "name", "code", "contrast", "harmony", "mix", "vision",
-                                "read", "convert", "formats", "profiles"}) {
+                                "read", "convert", "extract", "formats", "profiles"}) {
         const auto help = tintra({command, "--help"});
         EXPECT_EQ(help.status, 0);
         EXPECT_THAT(help.out, HasSubstr(std::string("tintra ") + command));
@@ -361,6 +365,72 @@ TEST_F(CommandsWithFiles, BadFilesAreOneLineEachAndWriteNothing) {
         EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
         EXPECT_THAT(result.err, StartsWith("tintra: " + path(name) + ": "));
         EXPECT_FALSE(std::filesystem::exists(path("out.json"))) << name;
+    }
+}
+
+/// A picture of 40 by 20: red on the left half, paper on the right.
+std::string picture(std::uint8_t alpha = 255) {
+    const auto png = encodePng({40, 20}, [&](std::size_t, std::span<Rgba8> row) {
+        for (std::size_t x = 0; x < row.size(); ++x)
+            row[x] = x < 20 ? Rgba8{200, 30, 40, alpha} : Rgba8{240, 236, 228, alpha};
+    });
+    return std::string(asText(png.value()));
+}
+
+TEST_F(CommandsWithFiles, ExtractTellsColoursSharesAndPlaces) {
+    const auto png = file("halves.png", picture());
+    const auto result = tintra({"extract", "--json", "--count", "3", png});
+    EXPECT_EQ(result.status, 0) << result.err;
+    const auto document = result.json();
+    ASSERT_EQ(document.size(), 1U);
+    EXPECT_EQ(keys(document[0]),
+              (std::vector<std::string>{"picture", "width", "height", "colours"}));
+    EXPECT_EQ(document[0]["picture"], png);
+    EXPECT_EQ(document[0]["width"], 40);
+    EXPECT_EQ(document[0]["height"], 20);
+    ASSERT_EQ(document[0]["colours"].size(), 2U);
+    const auto& paper = document[0]["colours"][0];
+    EXPECT_EQ(keys(paper),
+              (std::vector<std::string>{"hex", "alpha", "r", "g", "b", "name", "share", "point"}));
+    EXPECT_EQ(paper["hex"], "#F0ECE4") << "of equal shares the lighter first";
+    EXPECT_EQ(paper["share"], 0.5);
+    EXPECT_EQ(paper["point"], Json::parse("[20.5, 9.5]"));
+    EXPECT_EQ(document[0]["colours"][1]["hex"], "#C81E28");
+    EXPECT_THAT(tintra({"extract", png}).out, HasSubstr("#C81E28  50 %"));
+}
+
+TEST_F(CommandsWithFiles, ExtractReadsStandardInputAndWritesOnePalette) {
+    const auto out = path("palette.gpl");
+    const auto png = file("halves.png", picture());
+    const auto both = tintra({"extract", png, "-", "-o", out}, picture());
+    EXPECT_EQ(both.status, 0) << both.err;
+    EXPECT_EQ(both.out, "");
+    const auto read = tintra({"read", out, "--json"}).json();
+    ASSERT_EQ(read[0]["swatches"].size(), 4U);
+    EXPECT_EQ(read[0]["swatches"][1]["hex"], "#C81E28");
+    EXPECT_EQ(tintra({"extract", png, "-o", out}).status, 1) << "it exists";
+    EXPECT_EQ(tintra({"extract", png, "-o", out, "--force"}).status, 0);
+    EXPECT_THAT(tintra({"extract", png, "-o", "-", "--to", "css"}).out, HasSubstr("#c81e28"));
+}
+
+TEST_F(CommandsWithFiles, ExtractReportsWhatGivesNoColoursAndGoesOn) {
+    const auto text = file("notes.png", "no picture");
+    const auto clear = file("clear.png", picture(90));
+    const auto png = file("halves.png", picture());
+    const auto result = tintra({"extract", text, clear, path("absent.png"), png, "--json"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.json().size(), 1U);
+    EXPECT_EQ(result.err, "tintra: " + text + ": could not be read as an image\n" +              //
+                              "tintra: " + clear + ": Nothing to extract from " + clear + "\n" + //
+                              "tintra: " + path("absent.png") + ": No such file or directory\n");
+    for (const auto& wrong : std::vector<std::vector<std::string>>{{"--count", "0"},
+                                                                   {"--count", "257"},
+                                                                   {"--emphasis", "loud"},
+                                                                   {"--to", "css"},
+                                                                   {"-o", path("palette.doc")}}) {
+        auto arguments = wrong;
+        arguments.insert(arguments.begin(), {"extract", png});
+        EXPECT_EQ(tintra(arguments).status, 2) << wrong[0] << wrong[1];
     }
 }
 
