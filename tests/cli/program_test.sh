@@ -59,4 +59,15 @@ check "a link's target is replaced" "GIMP Palette" "$(head -n 1 "$folder/mine.gp
 check "with its permissions" 640 "$(stat -c %a "$folder/mine.gpl")"
 check "no temporary file is left" "" "$(find "$folder" -name '.tintra*')"
 
+# A picture of one colour, seen by another eye, holds what the colour alone becomes.
+printf '$red: #ff0000;' >"$folder/red.scss"
+"$tintra" convert "$folder/red.scss" -o "$folder/red.png"
+"$tintra" vision protanopia --picture "$folder/red.png" -o "$folder/seen.png"
+check "a whole picture simulated" "$("$tintra" vision protanopia red)" \
+    "$("$tintra" extract --json "$folder/seen.png" | sed -n 's/.*"hex": "\(.*\)".*/\1/p')"
+"$tintra" vision protanopia --picture "$folder/red.scss" -o "$folder/none.png" 2>"$folder/errors"
+check "what is no picture" "tintra: $folder/red.scss: could not be read as an image" \
+    "$(cat "$folder/errors")"
+check "writes nothing" "" "$(ls "$folder/none.png" 2>/dev/null)"
+
 [ "$failures" -eq 0 ]
