@@ -42,7 +42,7 @@ inline Run runProgram(std::vector<const char*> arguments) {
 /// Times whole runs, and tells the most memory that any of them held.
 inline void wholeRuns(benchmark::State& state, const std::vector<const char*>& arguments) {
     double most = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         const auto run = runProgram(arguments);
         if (!run.succeeded) {
             state.SkipWithError("the program failed or is not there");

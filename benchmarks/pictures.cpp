@@ -25,7 +25,7 @@ using namespace ImagePalette;
 
 /// Waves of colour under grain, as a photograph has them: no flat areas, no clear clusters.
 QImage scene(int width, int height) {
-    std::mt19937 random(1);
+    std::mt19937 random(1); // NOLINT(cert-msc*): the same scene each time
     QImage image(width, height, QImage::Format_RGB32);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) {
@@ -50,7 +50,7 @@ Pixels largestSample() {
 void clustering(benchmark::State& state) {
     const auto pixels = largestSample();
     const auto centres = seeds(pixels.samples, static_cast<std::size_t>(state.range(0)));
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(cluster(pixels.samples, centres));
     state.counters["samples"] = static_cast<double>(pixels.samples.size());
 }
@@ -60,7 +60,7 @@ void sampling(benchmark::State& state) {
     const auto image = scene(kSampledSide, kSampledSide).convertToFormat(QImage::Format_RGBA8888);
     const PixelBuffer buffer{{kSampledSide, kSampledSide},
                              {image.constBits(), image.constBits() + image.sizeInBytes()}};
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(sample(buffer));
 }
 BENCHMARK(sampling)->Unit(benchmark::kMillisecond);

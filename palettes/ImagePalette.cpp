@@ -30,10 +30,10 @@ constexpr std::array kRows{
 
 /// The middle of a sample's area, in pixels of the full size.
 Point pointOf(const Pixels& pixels, std::size_t sample, PictureSize full) {
-    const auto place = pixels.places[sample];
-    const auto width = static_cast<std::uint32_t>(pixels.reduced.width);
-    return {(place % width + 0.5) * full.width / pixels.reduced.width,
-            (place / width + 0.5) * full.height / pixels.reduced.height};
+    const auto place = static_cast<int>(pixels.places[sample]);
+    const auto [width, height] = pixels.reduced;
+    const int column = place % width, row = place / width;
+    return {(column + 0.5) * full.width / width, (row + 0.5) * full.height / height};
 }
 
 std::vector<Extracted> colours(const Pixels& pixels, PictureSize full, int count,
@@ -46,6 +46,7 @@ std::vector<Extracted> colours(const Pixels& pixels, PictureSize full, int count
     auto chosen = select(wanted, emphasis, total, found);
     sortByRank(chosen, total);
     std::vector<Extracted> result;
+    result.reserve(chosen.size());
     for (const auto& group : chosen)
         result.push_back({WashColor::fromOklab(group.mean, 1),
                           static_cast<double>(group.count) / static_cast<double>(total),

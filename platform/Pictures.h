@@ -56,8 +56,9 @@ public:
     virtual PictureSize size() const = 0;
 
     /// The picture reduced to at most `longerSide` (from 1) pixels on its longer side, never
-    /// enlarged: both sides scaled alike, fractions cut off, at least 1. Every pixel is the mean of
-    /// the area it covers, colours weighted by their alpha.
+    /// enlarged (so a side beyond its own gives it whole): both sides scaled alike, fractions cut
+    /// off, at least 1. Every pixel is the mean of the area it covers, colours weighted by their
+    /// alpha.
     virtual std::variant<PixelBuffer, PictureError> reduced(int longerSide,
                                                             AlphaForm form) const = 0;
 

@@ -1,7 +1,8 @@
 #include "palettes/image/Groups.h"
 
 #include <cmath>
-#include <utility>
+#include <cstdint>
+#include <tuple>
 
 namespace tintra::ImagePalette {
 
@@ -11,7 +12,9 @@ namespace {
 struct Fit {
     double fromMean = 0;
     std::uint64_t fromMiddle = 0; ///< squared, in halves of a reduced pixel
-    auto operator<=>(const Fit&) const = default;
+    bool operator<(const Fit& other) const {
+        return std::tie(fromMean, fromMiddle) < std::tie(other.fromMean, other.fromMiddle);
+    }
 };
 
 std::uint64_t fromMiddle(const Pixels& pixels, std::size_t sample) {
@@ -32,7 +35,7 @@ std::vector<Group> groups(const Pixels& pixels, const Clusters& clusters) {
         auto& group = made[index];
         const Fit fit{squaredDistance(pixels.samples[i], clusters.centres[index]),
                       fromMiddle(pixels, i)};
-        if (group.count++ > 0 && fit >= best[index]) continue;
+        if (group.count++ > 0 && !(fit < best[index])) continue;
         best[index] = fit;
         group.sample = i;
     }

@@ -177,17 +177,17 @@ PictureSize reducedSize(PictureSize full, int longerSide) {
     return {scaled(full.width), scaled(full.height)};
 }
 
-OpenedPicture openPicture(const std::filesystem::path& path, const PictureLimits& limits) {
+OpenedPicture openPicture(const std::filesystem::path& file, const PictureLimits& limits) {
     std::error_code failed;
-    if (!std::filesystem::is_regular_file(path, failed)) {
-        const auto content = readFile(path);
+    if (!std::filesystem::is_regular_file(file, failed)) {
+        const auto content = readFile(file);
         if (const auto* error = std::get_if<FileError>(&content))
             return PictureError{Kind::file, error->why};
         return openPicture(ByteView(std::get<Bytes>(content)), limits);
     }
-    Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    if (file.number() < 0) return systemError();
-    return open(std::move(file), limits);
+    Descriptor descriptor(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
+    if (descriptor.number() < 0) return systemError();
+    return open(std::move(descriptor), limits);
 }
 
 OpenedPicture openPicture(ByteView content, const PictureLimits& limits) {

@@ -7,7 +7,7 @@ namespace tintra {
 
 namespace {
 
-using std::literals::operator""sv;
+using namespace std::string_view_literals;
 
 struct Signature {
     std::string_view start;
@@ -52,12 +52,12 @@ bool beginsLikeMarkup(std::string_view head) {
 
 } // namespace
 
-std::optional<PictureKind> pictureKind(ByteView bytes) {
-    const auto head = asText(bytes);
+std::optional<PictureKind> pictureKind(ByteView head) {
+    const auto text = asText(head);
     const auto* const found =
-        std::ranges::find_if(kSignatures, [&](const auto& row) { return shows(head, row); });
+        std::ranges::find_if(kSignatures, [&](const auto& row) { return shows(text, row); });
     if (found != kSignatures.end()) return found->kind;
-    if (beginsLikeMarkup(head)) return kSvg;
+    if (beginsLikeMarkup(text)) return kSvg;
     return std::nullopt;
 }
 

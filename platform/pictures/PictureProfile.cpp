@@ -48,13 +48,13 @@ PictureProfile::PictureProfile(std::unique_ptr<Transform> transform)
 
 PictureProfile::~PictureProfile() = default;
 
-std::unique_ptr<PictureProfile> PictureProfile::of(ByteView bytes, PictureColours colours) {
-    const auto profile = profileOf(bytes, colours);
-    if (profile == nullptr) return nullptr;
-    const auto model = icc::modelOf(profile.get());
+std::unique_ptr<PictureProfile> PictureProfile::of(ByteView profile, PictureColours colours) {
+    const auto from = profileOf(profile, colours);
+    if (from == nullptr) return nullptr;
+    const auto model = icc::modelOf(from.get());
     if (model != ColourModel::rgb && model != ColourModel::grey) return nullptr;
     const bool isRgb = model == ColourModel::rgb;
-    auto handle = transform(profile.get(), isRgb ? TYPE_RGBA_8 : TYPE_GRAYA_8);
+    auto handle = transform(from.get(), isRgb ? TYPE_RGBA_8 : TYPE_GRAYA_8);
     if (handle == nullptr) return nullptr;
     auto made = std::make_unique<Transform>();
     if (isRgb)

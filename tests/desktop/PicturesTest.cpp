@@ -296,9 +296,8 @@ TEST(Pictures, WhatClaimsTooMuchIsRefusedBeforeMemoryIsTaken) {
     const auto drawing = svg(kSvgHalves, R"(width="60000" height="60000")");
     EXPECT_EQ(refusal(openPicture(ByteView(drawing))), PictureError::Kind::tooLarge);
     const auto small = encoded(halves(), "png");
-    EXPECT_EQ(refusal(openPicture(ByteView(small), {64 * 32 * 4 - 1})),
-              PictureError::Kind::tooLarge);
-    EXPECT_NE(opened(small, {64 * 32 * 4}), nullptr);
+    EXPECT_EQ(refusal(openPicture(ByteView(small), {8191})), PictureError::Kind::tooLarge);
+    EXPECT_NE(opened(small, {8192}), nullptr);
 }
 
 TEST(Pictures, WhatIsNoPictureIsRefused) {
@@ -313,7 +312,7 @@ TEST(Pictures, WhatIsNoPictureIsRefused) {
 }
 
 TEST(Pictures, MutatedFilesGiveAPictureOrAnError) {
-    std::mt19937 random(20240229);
+    std::mt19937 random(20240229); // NOLINT(cert-msc*): the same faults every time
     for (const auto& [name, content, tolerance] : filesOfHalves()) {
         for (int round = 0; round < 60; ++round) {
             auto mutated = content;

@@ -18,7 +18,7 @@ void makeApplication() {
     const std::string before = std::setlocale(LC_ALL, nullptr); // NOLINT(concurrency-mt-unsafe)
     static const auto* const application = new QGuiApplication(count, arguments);
     static_cast<void>(application);
-    std::setlocale(LC_ALL, before.c_str()); // NOLINT(concurrency-mt-unsafe)
+    static_cast<void>(std::setlocale(LC_ALL, before.c_str())); // NOLINT(concurrency-mt-unsafe)
 }
 
 } // namespace

@@ -33,7 +33,7 @@ private:
     static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
     bool weigh(std::size_t index, int depth);
-    bool add(Node& node, std::size_t part, int depth);
+    bool add(Node& whole, std::size_t part, int depth);
 
     std::vector<Node> nodes_;
     std::vector<std::size_t> open_; ///< from the root to the current element
