@@ -105,8 +105,7 @@ TEST(ExportPng, IsRowsOfSquares) {
 
 TEST(PngEncoder, RefusesSizesAndPassesExceptionsOn) {
     const auto blank = [](std::size_t, std::span<Rgba8>) {};
-    for (const PictureSize size :
-         {PictureSize{0, 1}, {1, 0}, {1'000'001, 1}, {-1, 1}})
+    for (const PictureSize size : {PictureSize{0, 1}, {1, 0}, {1'000'001, 1}, {-1, 1}})
         EXPECT_EQ(encodePng(size, blank), std::nullopt);
     EXPECT_THROW(encodePng({2, 2},
                            [](std::size_t y, auto) {
