@@ -1,5 +1,7 @@
 #include "platform/File.h"
 
+#include "platform/Descriptor.h"
+
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <sys/stat.h>
@@ -9,7 +11,6 @@
 #include <atomic>
 #include <cerrno>
 #include <system_error>
-#include <utility>
 
 namespace tintra {
 
@@ -20,25 +21,6 @@ namespace fs = std::filesystem;
 FileError lastError() {
     return {std::generic_category().message(errno)};
 }
-
-/// A file descriptor that closes itself.
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() {
-        if (number_ >= 0) ::close(number_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int number() const { return number_; }
-    bool isOpen() const { return number_ >= 0; }
-    /// Closing can be what reports a full disk.
-    bool close() { return ::close(std::exchange(number_, -1)) == 0; }
-
-private:
-    int number_;
-};
 
 /// A file beside the one to be written that removes itself unless it was renamed.
 class TemporaryFile {

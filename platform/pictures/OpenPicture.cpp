@@ -1,3 +1,4 @@
+#include "platform/Descriptor.h"
 #include "platform/File.h"
 #include "platform/Pictures.h"
 #include "platform/pictures/AreaAverage.h"
@@ -23,21 +24,6 @@ namespace tintra {
 namespace {
 
 using Kind = PictureError::Kind;
-
-/// Owns a file descriptor.
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() {
-        if (number_ >= 0) ::close(number_);
-    }
-    Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
-    Descriptor& operator=(Descriptor&&) = delete;
-    int number() const { return number_; }
-
-private:
-    int number_;
-};
 
 PictureError systemError() {
     return {Kind::file, std::generic_category().message(errno)};
@@ -186,7 +172,7 @@ OpenedPicture openPicture(const std::filesystem::path& file, const PictureLimits
         return openPicture(ByteView(std::get<Bytes>(content)), limits);
     }
     Descriptor descriptor(::open(file.c_str(), O_RDONLY | O_CLOEXEC));
-    if (descriptor.number() < 0) return systemError();
+    if (!descriptor.isOpen()) return systemError();
     return open(std::move(descriptor), limits);
 }
 
