@@ -141,11 +141,9 @@ Action declareExtract(Declaration& declaration) {
     const auto options = std::make_shared<ExtractOptions>();
     declaration.positional("PICTURE", options->pictures, "A picture file; “-” is standard input",
                            Takes::file);
-    declaration
-        .option("--count", options->count, "N",
-                fmt::format("How many colours of each picture, 1 to {} (default 8)",
-                            ImagePalette::kMostColours))
-        ->check(CLI::Range(1, ImagePalette::kMostColours));
+    declaration.number("--count", options->count, 1, ImagePalette::kMostColours, "N",
+                       fmt::format("How many colours of each picture, 1 to {} (default 8)",
+                                   ImagePalette::kMostColours));
     declaration.choice("--emphasis", options->emphasis, emphasisChoices(), "EMPHASIS",
                        "dominant: what covers most (the default); vibrant: strong colours; "
                        "spread: colours far apart");
