@@ -1,0 +1,65 @@
+#pragma once
+
+#include "palettes/PaletteCache.h"
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// How the Library finds palettes: by a colour that one of their swatches matches, or by a text in
+// the palette's or a swatch's name. Pure; any thread.
+
+namespace tintra {
+
+/// When two colours match, from narrow to wide.
+enum class ColourMatch {
+    exact, ///< within ΔE 1
+    close, ///< within ΔE 3
+    hue,   ///< within 10° of HSB hue, when both have a saturation of 0.15 at least
+};
+
+/// The persisted text, the badge and the explanation of a match; all in menu order.
+std::string_view rawValue(ColourMatch match);
+std::string_view badge(ColourMatch match);
+std::string_view explanation(ColourMatch match);
+std::optional<ColourMatch> colourMatch(std::string_view raw);
+std::span<const ColourMatch> allColourMatches();
+
+/// Why a palette was found.
+struct PaletteHit {
+    /// The swatch; none when the palette's own name matched.
+    std::optional<std::size_t> index;
+    /// ΔE (CIE76 under the selected illuminant), or degrees of hue; none for a match of text.
+    std::optional<double> distance;
+    bool operator==(const PaletteHit&) const = default;
+};
+
+/// What a search field asks for.
+class PaletteQuery {
+public:
+    /// The text is a colour when the whole of it is one ("#facade", not "facade"), else words.
+    PaletteQuery(std::string_view text, ColourMatch match);
+
+    bool isEmpty() const { return words_.empty() && !color_; }
+    const std::optional<WashColor>& color() const { return color_; }
+    ColourMatch match() const { return match_; }
+
+    /// The swatch of smallest distance, the earlier of equal ones; or the palette's name, else the
+    /// first swatch name that holds the words. Letter case and accents do not count.
+    std::optional<PaletteHit> hit(std::string_view paletteName, const CachedPalette& palette) const;
+
+private:
+    ColourMatch match_;
+    std::optional<WashColor> color_;
+    std::optional<CachedPalette::Compared> compared_;
+    bool underD65_ = false;
+    std::string words_; ///< folded
+};
+
+/// The comparable form of a colour.
+CachedPalette::Compared compared(const WashColor& color);
+
+} // namespace tintra

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace tintra {
+
+/// The desktop's clipboard. Main loop.
+class Clipboard {
+public:
+    struct Content {
+        std::string text; ///< UTF-8
+        /// Red, green, blue and alpha of sRGB, for programs that take a colour as such; they may
+        /// clamp it to 0...1.
+        std::optional<std::array<double, 4>> colour;
+        bool operator==(const Content&) const = default;
+    };
+
+    virtual ~Clipboard() = default;
+
+    virtual void set(const Content& content) = 0;
+    /// What the clipboard holds now, put there by any program; empty when it holds neither.
+    virtual Content content() const = 0;
+};
+
+} // namespace tintra

@@ -1,0 +1,376 @@
+#pragma once
+
+#include "colour/Harmony.h"
+#include "colour/Vision.h"
+#include "palettes/ImagePalette.h"
+#include "palettes/PaletteExport.h"
+#include "palettes/PaletteStore.h"
+#include "platform/MainLoop.h"
+#include "platform/Toasts.h"
+#include "state/Choices.h"
+#include "state/Drag.h"
+#include "state/Geometry.h"
+#include "state/PaletteWindows.h"
+#include "state/Quote.h"
+#include "state/StoredWorkspace.h"
+#include "state/UndoTargets.h"
+
+#include <QProperty>
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tintra {
+
+class AppUndo;
+class Bench;
+class ContrastBoard;
+class Preferences;
+struct Services;
+
+/// The shared models that a palette window works with. Outlive it.
+struct AppContext {
+    Services& services;
+    Preferences& preferences;
+    AppUndo& undo;
+    Bench& bench;
+    ContrastBoard& contrast;
+    PaletteStore& store;
+    PaletteWindows& windows;
+};
+
+/// The model of one palette window: the seeds of its harmony, its palette, and how it is shown.
+/// Whatever changes the palette takes an undo checkpoint, marks the palette changed and schedules
+/// the window's record. Files are read and written in the background. Main loop.
+class AppState final : public PaletteUndoTarget {
+public:
+    /// Which seed.
+    enum class SeedRole { first, last };
+    using PaletteDisplay = tintra::PaletteDisplay;
+    using ToastPlace = tintra::ToastPlace;
+    using Stored = StoredWorkspace;
+
+    /// The swatch in the colour editor as it stands there, not applied yet.
+    struct EditorBuffer {
+        Uuid swatchID;
+        WashColor color;
+        bool operator==(const EditorBuffer&) const = default;
+    };
+
+    /// The picture in the picture pane.
+    struct ImageSource {
+        std::shared_ptr<const Picture> picture;
+        std::string name;          ///< of its file
+        std::filesystem::path url; ///< empty for a picture that came without a file
+        int count = 0;             ///< of colours asked for, own pins not counted
+        ImagePalette::Emphasis emphasis = ImagePalette::Emphasis::dominant;
+        std::vector<ImagePalette::Extracted> found; ///< in order, the user's own pins last
+        bool extracting = false;                    ///< colours are on their way
+        bool operator==(const ImageSource& other) const;
+    };
+
+    /// What the colours from a picture are to do with a palette that has some.
+    enum class Arriving { add, replace };
+
+    /// What the bands of a harmony are computed from.
+    struct BandsKey {
+        WashColor first, last;
+        HarmonyMode mode = HarmonyMode::paletteBuilder;
+        int steps = 0, shades = 0;
+        BlendSpace space = BlendSpace::sRGB;
+        bool operator==(const BandsKey&) const = default;
+    };
+
+    enum class Duplicates { refuse, allow };
+
+    AppState(Uuid id, bool isPrimary, AppContext context);
+    ~AppState() override;
+    AppState(const AppState&) = delete;
+    AppState& operator=(const AppState&) = delete;
+
+    const Uuid& id() const { return id_; }
+    bool isPrimary() const { return isPrimary_; }
+    const std::string& untitledName() const { return untitledName_; }
+    const Quote& quote() const { return quote_; }
+    /// Where this window's notices are shown.
+    ToastPlace place() const { return {ToastWindow::palette, id_}; }
+
+    // Seeds and harmony. Every one of these is persisted; `setSeed` and its like take checkpoints.
+
+    const QProperty<Seeds>& seeds() const { return seeds_; }
+    const WashColor& first() const { return seeds_.value().first; }
+    const WashColor& last() const { return seeds_.value().last; }
+    QProperty<int> steps{5};
+    QProperty<BlendSpace> blendSpace{BlendSpace::sRGB};
+    QProperty<HarmonyMode> mode{HarmonyMode::paletteBuilder};
+    QProperty<int> shadesPerAnchor{1};
+
+    // The palette
+
+    const QProperty<std::vector<PaletteSwatch>>& customPalette() const { return palette_; }
+    const std::vector<PaletteSwatch>& swatches() const { return palette_.value(); }
+    std::vector<WashColor> colors() const;
+    /// Given names, in step with `colors`.
+    std::vector<std::optional<std::string>> names() const;
+    /// Goes up with every change of the palette.
+    const QProperty<std::uint64_t>& customPaletteVersion() const { return paletteVersion_; }
+    const QProperty<bool>& paletteIsDirty() const { return dirty_; }
+    const QProperty<std::optional<PaletteAttachment>>& attachment() const { return attachment_; }
+    std::optional<std::string> currentPaletteName() const;
+    std::optional<std::filesystem::path> currentPaletteURL() const;
+    const FileVersion& loadedVersion() const { return loadedVersion_; }
+    /// The file's name, else the untitled name.
+    std::string title() const;
+    std::optional<std::size_t> indexOf(const Uuid& swatch) const;
+    /// The user's name, else the nearest one.
+    std::string swatchName(std::size_t at) const;
+
+    // How the window shows it. Views set these; those with a record are persisted.
+
+    QProperty<std::optional<std::size_t>> selectedSwatch; ///< persisted
+    QProperty<std::optional<std::size_t>> revealSwatch;   ///< to scroll into view
+    QProperty<std::optional<std::size_t>> renamingSwatch; ///< whose name is being edited
+    QProperty<Vision> vision{Vision::typical};
+    QProperty<std::optional<EditorBuffer>> editorBuffer; ///< none while the editor is shut
+    QProperty<ImageSource> imageSource;                  ///< without a picture when there is none
+    QProperty<bool> isPictureWindowOpen{false};
+    QProperty<PaletteDisplay> viewBeforePicture{PaletteDisplay::columns};
+    QProperty<bool> isCollapsed{false}; ///< persisted
+    QProperty<bool> collapsedAutomatically{false};
+    QProperty<bool> isHung{false};
+    QProperty<bool> isExpanded{false};
+    QProperty<StoredSize> windowSize;
+    QProperty<std::map<HarmonyMode, StoredSize>> modeSizes; ///< persisted
+    QProperty<std::optional<CompactOrientation>>
+        compactOrientation;                             ///< persisted; none: the preference
+    QProperty<std::optional<StoredFrame>> frame;        ///< persisted
+    QProperty<std::optional<StoredFrame>> pendingFrame; ///< to apply once the window exists
+    QProperty<std::uint64_t> copyTick{0};               ///< goes up with every copy
+    QProperty<std::optional<std::size_t>> draggingSwatch;
+    QProperty<bool> swatchIsOver{false}, fileIsOver{false};
+    QProperty<bool> paletteJustChanged{false}, modeJustChanged{false};
+
+    // Palette content (AppStatePalette.cpp)
+
+    /// Refused when the palette is full or holds the colour (which is selected then), with a
+    /// notice. Answers whether it was added.
+    bool addToPalette(const WashColor& colour, Duplicates duplicates,
+                      std::optional<std::string> name = {});
+    /// Names in step with `colours`, or fewer. Reports the counts.
+    void addAllToPalette(std::span<const WashColor> colours,
+                         std::span<const std::optional<std::string>> names = {});
+    /// Adds a swatch of the last seed's colour to be edited; `takingKeyboard` begins its name.
+    void addBlankSwatch(bool takingKeyboard);
+    void duplicateSwatch(std::size_t at);
+    void removeSwatch(std::size_t at);
+    void removeSelectedSwatch();
+    /// `to` is counted without the swatch itself.
+    void moveSwatch(std::size_t from, std::size_t to);
+    /// Blank text takes the name away.
+    void renameSwatch(std::size_t at, std::string_view to);
+    void replaceInPalette(std::size_t index, const WashColor& with);
+    void replacePalette(std::span<const WashColor> with,
+                        std::span<const std::optional<std::string>> names);
+    /// Asks about unsaved changes, then leaves an untitled, empty palette.
+    void clearPalette();
+    /// Takes every swatch out; the file stays attached.
+    void emptyPalette();
+    /// Puts the editor's colour into the palette; the swatch of `editorBuffer`, wherever it is now.
+    void applyEdit();
+    /// Begins to edit a swatch; an edit of another one is applied first.
+    void editSwatch(std::size_t at);
+    void revertEdit();
+
+    // Seeds and harmony (AppStateSeeds.cpp)
+
+    void setSeed(SeedRole role, const WashColor& colour, std::string_view coalescing = {});
+    void pickFirst(const WashColor& colour) { setSeed(SeedRole::first, colour); }
+    void pickLast(const WashColor& colour) { setSeed(SeedRole::last, colour); }
+    /// A pick in an empty window: into the palette, or the first seed of a harmony.
+    void pickForEmpty(const WashColor& colour);
+    /// Back to the seeds of a new window.
+    void clearSeeds();
+    void restoreSeeds(const Seeds& seeds);
+    void swapSeeds();
+    void checkpointSeeds(std::string_view coalescing);
+    void receiveSeed(const Drag& drag, SeedRole as);
+    /// The last seed that follows from a first one while the user has chosen none.
+    static WashColor defaultingLast(const WashColor& first);
+    void enterPaletteBuilder();
+    void markModeChanged();
+    /// None in the palette builder. Computed anew only when something of its key has changed.
+    const std::vector<Harmony::Band>& bands() const;
+    void addHarmonyToPalette();
+
+    // Palette files (AppStateFiles.cpp, AppStateSaving.cpp)
+
+    using Done = std::function<void(bool done)>;
+
+    /// An untitled, empty palette; asks about unsaved changes first.
+    void newPalette();
+    /// The same, in the palette builder.
+    void startNewPalette();
+    /// Reads a palette file in the background and loads it.
+    void open(const std::filesystem::path& file);
+    void loadPalette(const PaletteStore::Entry& entry);
+    /// Shows a palette: asks about unsaved changes; opens a new window when a harmony would go.
+    void loadPalette(LoadedPalette palette);
+    /// To the file it came from, or asks where. `done` is told whether it was saved.
+    void savePalette(Done done = {});
+    /// As a colour list of the system colour picker.
+    void savePalette(std::string_view as, PaletteStore::Clash clash, Done done = {});
+    void saveAs(const std::filesystem::path& to, ExportFormat format, Done done = {});
+    /// Asks about other windows' saves and lost alpha, then writes.
+    void saveBack(const std::filesystem::path& to, Done done);
+    void saveWithoutAsking(const std::filesystem::path& to, ExportFormat format, Done done);
+    void duplicatePalette(std::string_view as);
+    void renamePalette(std::string_view to);
+    void trashPalette();
+    /// What another window saved to this window's file.
+    void takeSaved(const AppState& from);
+    void recordSaved(const std::filesystem::path& file);
+    void askAboutMovedSource(std::function<void(bool replace)> answered, Done done);
+    /// Asks before unsaved changes go; `answered` is told whether to go on. `action` is a phrase
+    /// such as "quitting".
+    void confirmDiscardingChanges(std::string_view before, std::function<void(bool)> answered);
+    void installInColourPicker();
+    void installFor(const InstallTarget& target);
+
+    // Library locations (AppStateLibrary.cpp)
+
+    void addPaletteLocation();
+    void addPaletteLocation(const std::filesystem::path& folder);
+    void removePaletteLocation(const Uuid& id);
+    void rechoosePaletteLocation(const Uuid& id);
+
+    // Sending elsewhere (AppStateSending.cpp)
+
+    void toggleBenchedSwatch(std::size_t at);
+    void toggleBenchedBand(const WashColor& colour, std::optional<std::string> name);
+    bool isPaletteSwatchBenched(std::size_t at) const;
+    bool isBandBenched(const WashColor& colour) const;
+    void sendToContrast(const WashColor& colour, std::optional<std::string> name, ToastPlace where);
+    void sendToContrast(const WashColor& colour, std::optional<std::string> name, Contrast::Role as,
+                        ToastPlace where);
+    void sendAllToContrast();
+    /// Sends the colour, or takes it off the board.
+    void toggleContrast(const WashColor& colour, std::optional<std::string> name, ToastPlace where);
+    void sortContrastByLightness(bool lightestFirst, ToastPlace where);
+    void copy(const WashColor& colour, std::optional<std::string> name,
+              std::optional<ColorFormat> as = {});
+    void copyAll(std::span<const WashColor> colours,
+                 std::span<const std::optional<std::string>> names);
+
+    /// Keys held during a quick pick, by the place of the key symbols: ⌘ ⌥ ⇧.
+    struct Modifiers {
+        bool command = false, option = false, shift = false;
+    };
+    void quickPick(const WashColor& colour, Modifiers modifiers);
+
+    // Drag and drop (AppStateDrops.cpp)
+
+    /// What would be said to a drop on the palette; nothing when it is taken.
+    std::optional<std::string> refusal(const Drag& of, bool moving) const;
+    /// A dropped colour before the swatch at `at` (the count: at the end). A swatch of this palette
+    /// moves; one of another moves when `moving`.
+    void receive(const Drag& drag, std::size_t at, bool moving);
+    void explainMoveRefusal();
+    /// A swatch of this palette has moved to another window.
+    void release(const Uuid& swatch);
+    /// Colours out of text that was pasted or dropped. Answers how many it held.
+    std::size_t receiveText(std::string_view text);
+
+    // Pictures (AppStatePicture.cpp)
+
+    void chooseImage();
+    void loadImage(const std::filesystem::path& file);
+    void loadImage(Bytes content, std::string name);
+    void closePicture();
+    /// Finds `count` colours anew.
+    void reextract(int count, ImagePalette::Emphasis emphasis);
+    bool canExtractMore() const;
+    bool canExtractFewer() const;
+    /// "Add All to Palette": asks when the palette holds something.
+    void applyExtraction();
+    void applyExtraction(Arriving arriving);
+    void addPin(ImagePalette::Point at);
+    void movePin(std::size_t pin, ImagePalette::Point to);
+    void removePin(std::size_t pin);
+    std::vector<Uuid> pinSwatchIDs() const;
+
+    // Window (AppStateWindow.cpp)
+
+    void toggleCollapsed();
+    void toggleEditor();
+    void toggleExpanded();
+    void applicationBecameActive();
+    void applicationResignedActive();
+    /// A notice that offers to undo the last change.
+    void flashUndoable(std::string text, ToastPlace where);
+
+    // Persistence (AppStatePersistence.cpp)
+
+    Stored currentStored() const;
+    /// Applies a whole record, or all but the palette and the seeds.
+    void apply(const Stored& stored) { applyStored(stored, true); }
+    void applyStored(const Stored& stored, bool includeContent);
+    /// Schedules the record 0.3 s from now; nothing while `restoring`.
+    void persist();
+    void persistNow();
+    /// Writes a scheduled record at once.
+    void flushPersist();
+    /// The primary window's record, when there is one.
+    void restore();
+    bool restoring() const { return restoring_; }
+
+    // Undo
+
+    PaletteContent exchangePalette(PaletteContent other) override;
+    Seeds exchangeSeeds(Seeds other) override;
+    void exchangeMove(std::size_t from, std::size_t to) override;
+
+private:
+    struct Subscriptions;
+
+    void toast(std::string text, double seconds) const;
+    PaletteContent content() const;
+    void checkpointPalette(std::string_view coalescing);
+    void setSwatches(std::vector<PaletteSwatch> swatches);
+    void markPaletteChanged();
+    void select(std::size_t index);
+
+    const Uuid id_;
+    const bool isPrimary_;
+    AppContext context_;
+    std::string untitledName_;
+    Quote quote_;
+    QProperty<Seeds> seeds_;
+    QProperty<std::vector<PaletteSwatch>> palette_;
+    QProperty<std::uint64_t> paletteVersion_{0};
+    QProperty<bool> dirty_{false};
+    QProperty<std::optional<PaletteAttachment>> attachment_;
+    FileVersion loadedVersion_;
+    std::uint64_t saves_ = 0;
+    bool restoring_ = false;
+    std::unique_ptr<DelayedTask> persistWorkItem_;
+    std::unique_ptr<Subscriptions> subscriptions_;
+    mutable BandsKey bandsKey_;
+    mutable std::vector<Harmony::Band> bands_;
+    /// Results of background work belong to this window only while it lives, and only the latest
+    /// of a kind counts.
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+    std::uint64_t pictureTurn_ = 0;
+};
+
+/// The first of "Untitled Palette", "Untitled Palette 2", … that is not taken.
+std::string freeUntitledName(std::span<const std::string> taken);
+
+} // namespace tintra
