@@ -10,6 +10,9 @@
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
+#include <chrono>
+#include <cstdio>
+#include <string_view>
 #include <system_error>
 
 namespace tintra {
@@ -18,6 +21,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::string_view kTemporary = ".tintra-";
+
 FileError lastError() {
     return {std::generic_category().message(errno)};
 }
@@ -25,9 +30,7 @@ FileError lastError() {
 /// A file beside the one to be written that removes itself unless it was renamed.
 class TemporaryFile {
 public:
-    explicit TemporaryFile(const fs::path& target)
-        : path_(freshName(target)),
-          descriptor_(::open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666)) {}
+    explicit TemporaryFile(const fs::path& target) : descriptor_(openFresh(path_, target)) {}
     ~TemporaryFile() {
         if (!renamed_ && created_) ::unlink(path_.c_str());
     }
@@ -69,8 +72,16 @@ public:
 private:
     static std::string freshName(const fs::path& target) {
         static std::atomic<unsigned> count = 0;
-        const auto name = fmt::format(".tintra-{}-{}", ::getpid(), ++count);
+        const auto name = fmt::format("{}{}-{}", kTemporary, ::getpid(), ++count);
         return (target.parent_path() / name).string();
+    }
+    /// A program that was killed may have left a file of the same name.
+    static Descriptor openFresh(std::string& path, const fs::path& target) {
+        for (;;) {
+            path = freshName(target);
+            Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+            if (file.isOpen() || errno != EEXIST) return file;
+        }
     }
 
     std::string path_;
@@ -132,6 +143,35 @@ std::optional<FileError> writeFile(const fs::path& path, ByteView content, Exist
                          file.rename(target, existing);
     if (!written) return lastError();
     return std::nullopt;
+}
+
+void removeLeftovers(const fs::path& folder) {
+    const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(1);
+    std::error_code failed;
+    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
+         entry.increment(failed)) {
+        std::error_code gone;
+        const bool ours = entry->path().filename().native().starts_with(kTemporary);
+        if (ours && entry->last_write_time(gone) < longAgo && !gone)
+            fs::remove(entry->path(), gone);
+    }
+}
+
+std::error_code renameWithoutReplacing(const fs::path& from, const fs::path& to) {
+    const auto why = [] { return std::error_code(errno, std::generic_category()); };
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return {};
+    if (errno != EINVAL && errno != ENOSYS) return why();
+    // Some file systems cannot promise it. There a hard link fails where a name is taken; those
+    // without hard links are left with looking first.
+    if (::link(from.c_str(), to.c_str()) == 0) {
+        if (::unlink(from.c_str()) == 0) return {};
+        const auto failed = why();
+        ::unlink(to.c_str());
+        return failed;
+    }
+    if (struct stat status{}; ::lstat(to.c_str(), &status) == 0)
+        return std::make_error_code(std::errc::file_exists);
+    return ::rename(from.c_str(), to.c_str()) == 0 ? std::error_code() : why();
 }
 
 } // namespace tintra

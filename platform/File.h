@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <variant>
 
 namespace tintra {
@@ -28,5 +29,14 @@ enum class Existing { refuse, replace };
 /// Answers nothing on success.
 std::optional<FileError> writeFile(const std::filesystem::path& path, ByteView content,
                                    Existing existing);
+
+/// Removes the temporary files of `writeFile` that a killed program left in the folder more than an
+/// hour ago.
+void removeLeftovers(const std::filesystem::path& folder);
+
+/// Renames a file or a folder within a file system; nothing is ever replaced
+/// (std::errc::file_exists tells of a name that is taken).
+std::error_code renameWithoutReplacing(const std::filesystem::path& from,
+                                       const std::filesystem::path& to);
 
 } // namespace tintra

@@ -20,6 +20,18 @@ void addAbsolute(std::vector<fs::path>& folders, const fs::path& folder) {
     if (folder.is_absolute()) folders.push_back(folder);
 }
 
+/// The folder that a variable names, else the usual one below the home folder; relative ones do not
+/// count, so that no home folder means no folder.
+fs::path userFolder(const char* variable, const char* usual) {
+    if (fs::path named = environment(variable); named.is_absolute()) return named;
+    const auto home = homeFolder();
+    return home.is_absolute() ? home / usual : fs::path();
+}
+
+fs::path ofTintra(const fs::path& folder) {
+    return folder.empty() ? folder : folder / "tintra";
+}
+
 /// The folder above the one of the running program, whether that is installed or just built.
 fs::path installation() {
     std::error_code failed;
@@ -32,10 +44,21 @@ fs::path homeFolder() {
     return {environment("HOME")};
 }
 
+fs::path configFolder() {
+    return ofTintra(userFolder("XDG_CONFIG_HOME", ".config"));
+}
+
+fs::path stateFolder() {
+    return ofTintra(userFolder("XDG_STATE_HOME", ".local/state"));
+}
+
+fs::path dataHome() {
+    return userFolder("XDG_DATA_HOME", ".local/share");
+}
+
 std::vector<fs::path> dataFolders() {
     std::vector<fs::path> folders;
-    const auto own = environment("XDG_DATA_HOME");
-    addAbsolute(folders, own.empty() ? homeFolder() / ".local/share" : fs::path(own));
+    addAbsolute(folders, dataHome());
     auto system = environment("XDG_DATA_DIRS");
     if (system.empty()) system = "/usr/local/share:/usr/share";
     while (!system.empty()) {

@@ -1,0 +1,170 @@
+#include "platform/FileDefaults.h"
+
+#include "platform/Clock.h"
+#include "platform/MainLoop.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tintra {
+
+/// What could not be written and who is to hear of it. Any thread adds, the main loop tells.
+class FileDefaults::Failures {
+public:
+    using Told = std::function<void(std::string_view, const FileError&)>;
+
+    /// Whether it is the first since the last were told.
+    bool add(std::string key, FileError error) {
+        const std::lock_guard hold(lock_);
+        waiting_.emplace_back(std::move(key), std::move(error));
+        return waiting_.size() == 1;
+    }
+
+    void whenFailing(Told told) { told_ = std::move(told); }
+
+    /// Does nothing while it is telling: whoever is told may set records and flush.
+    void tell() {
+        if (std::exchange(telling_, true)) return;
+        for (const auto& [key, error] : take())
+            if (const auto told = told_) told(key, error);
+        telling_ = false;
+    }
+
+private:
+    using List = std::vector<std::pair<std::string, FileError>>;
+
+    List take() {
+        const std::lock_guard hold(lock_);
+        return std::exchange(waiting_, {});
+    }
+
+    std::mutex lock_;
+    List waiting_; ///< under the lock
+    Told told_;
+    bool telling_ = false;
+};
+
+FileDefaults::FileDefaults(Folders folders, MainLoop& mainLoop, const Clock& clock)
+    : folders_(std::move(folders)), mainLoop_(mainLoop), clock_(clock),
+      failures_(std::make_shared<Failures>()), writer_([this] { write(); }) {}
+
+FileDefaults::~FileDefaults() {
+    finish();
+    {
+        const std::lock_guard hold(lock_);
+        ending_ = true;
+    }
+    change_.notify_all();
+    writer_.join();
+}
+
+std::optional<std::string> FileDefaults::data(std::string_view key) {
+    const auto known = known_.find(key);
+    if (known == known_.end()) return file(key).read();
+    return known->second ? std::optional(*known->second) : std::nullopt;
+}
+
+void FileDefaults::set(std::string_view key, std::string record) {
+    auto& known = known_[std::string(key)];
+    known = std::make_shared<const std::string>(std::move(record));
+    order(key, {Do::write, known});
+}
+
+void FileDefaults::remove(std::string_view key) {
+    known_[std::string(key)] = nullptr;
+    order(key, {Do::remove, nullptr});
+}
+
+void FileDefaults::setAside(std::string_view key) {
+    known_[std::string(key)] = nullptr;
+    order(key, {Do::setAside, nullptr});
+}
+
+void FileDefaults::flush() {
+    finish();
+    failures_->tell();
+}
+
+void FileDefaults::whenFailing(std::function<void(std::string_view, const FileError&)> told) {
+    failures_->whenFailing(std::move(told));
+}
+
+RecordFile FileDefaults::file(std::string_view key) const {
+    return {key == "TintraPreferences" ? folders_.settings : folders_.state, key};
+}
+
+/// A record that has not been written yet is not worth writing once there is a newer one, but it is
+/// when it is to be set aside.
+void FileDefaults::add(Steps& steps, Step step) {
+    const bool replaces =
+        !steps.empty() && steps.back().what != Do::setAside && step.what != Do::setAside;
+    if (replaces) steps.pop_back();
+    steps.push_back(std::move(step));
+}
+
+void FileDefaults::order(std::string_view key, Step step) {
+    {
+        const std::lock_guard hold(lock_);
+        add(steps_[std::string(key)], std::move(step));
+        if (std::ranges::find(due_, key) == due_.end()) due_.emplace_back(key);
+    }
+    change_.notify_all();
+}
+
+/// Tries everything that is left to do, once.
+void FileDefaults::finish() {
+    std::unique_lock hold(lock_);
+    for (const auto& [key, steps] : steps_)
+        if (std::ranges::find(due_, key) == due_.end()) due_.push_back(key);
+    change_.notify_all();
+    change_.wait(hold, [this] { return due_.empty() && !writing_; });
+}
+
+/// The writing thread.
+void FileDefaults::write() {
+    removeLeftovers(folders_.settings);
+    removeLeftovers(folders_.state);
+    std::unique_lock hold(lock_);
+    for (;;) {
+        change_.wait(hold, [this] { return ending_ || !due_.empty(); });
+        if (due_.empty()) return;
+        writeNext(hold);
+    }
+}
+
+void FileDefaults::writeNext(std::unique_lock<std::mutex>& hold) {
+    const auto key = std::move(due_.front());
+    due_.pop_front();
+    auto left = std::move(steps_.extract(key).mapped());
+    writing_ = true;
+    hold.unlock();
+    auto failed = perform(file(key), left);
+    hold.lock();
+    const bool newer = steps_.contains(key); // tried next: its success or failure is what counts
+    if (!left.empty()) {
+        for (auto& step : std::exchange(steps_[key], {}))
+            add(left, std::move(step));
+        steps_[key] = std::move(left);
+    }
+    if (failed && !newer && failures_->add(key, std::move(*failed)))
+        mainLoop_.post([told = std::weak_ptr(failures_)] {
+            if (const auto failures = told.lock()) failures->tell();
+        });
+    writing_ = false;
+    change_.notify_all();
+}
+
+/// Takes away the steps that succeeded.
+std::optional<FileError> FileDefaults::perform(const RecordFile& file, Steps& steps) const {
+    for (; !steps.empty(); steps.pop_front()) {
+        const auto& step = steps.front();
+        const auto now = clock_.date();
+        auto failed = step.what == Do::write    ? file.write(*step.record, now)
+                      : step.what == Do::remove ? file.remove(now)
+                                                : file.setAside(now);
+        if (failed) return failed;
+    }
+    return std::nullopt;
+}
+
+} // namespace tintra
