@@ -1,5 +1,7 @@
 #pragma once
 
+#include "colour/ColorFormat.h"
+#include "colour/Contrast.h"
 #include "colour/Harmony.h"
 #include "colour/Vision.h"
 #include "palettes/ImagePalette.h"
@@ -108,6 +110,9 @@ public:
     const QProperty<Seeds>& seeds() const { return seeds_; }
     const WashColor& first() const { return seeds_.value().first; }
     const WashColor& last() const { return seeds_.value().last; }
+    /// The bounds of steps and shades; `bands` brings other numbers into them.
+    static constexpr int kFewestSteps = 2, kMostSteps = 32;
+    static constexpr int kFewestShades = 1, kMostShades = 16;
     QProperty<int> steps{5};
     QProperty<BlendSpace> blendSpace{BlendSpace::sRGB};
     QProperty<HarmonyMode> mode{HarmonyMode::paletteBuilder};
@@ -176,7 +181,9 @@ public:
     void moveSwatch(std::size_t from, std::size_t to);
     /// Blank text takes the name away.
     void renameSwatch(std::size_t at, std::string_view to);
-    void replaceInPalette(std::size_t index, const WashColor& with);
+    /// `channel`: what is being changed ("h", "alpha"), so that a run of such changes is one step
+    /// of undo; empty for a step of its own.
+    void replaceInPalette(std::size_t index, const WashColor& with, std::string_view channel = {});
     void replacePalette(std::span<const WashColor> with,
                         std::span<const std::optional<std::string>> names);
     /// Asks about unsaved changes, then leaves an untitled, empty palette.
@@ -184,16 +191,20 @@ public:
     /// Takes every swatch out; the file stays attached.
     void emptyPalette();
     /// Puts the editor's colour into the palette; the swatch of `editorBuffer`, wherever it is now.
-    void applyEdit();
+    /// `channel` as for `replaceInPalette`.
+    void applyEdit(std::string_view channel = {});
     /// Begins to edit a swatch; an edit of another one is applied first.
     void editSwatch(std::size_t at);
     void revertEdit();
 
     // Seeds and harmony (AppStateSeeds.cpp)
 
+    /// The last seed follows a first one while the user has chosen none. Changes that follow each
+    /// other closely with the key of state/CoalescingKeys.h are one step of undo.
     void setSeed(SeedRole role, const WashColor& colour, std::string_view coalescing = {});
-    void pickFirst(const WashColor& colour) { setSeed(SeedRole::first, colour); }
-    void pickLast(const WashColor& colour) { setSeed(SeedRole::last, colour); }
+    /// A colour picked from the screen.
+    void pickFirst(const WashColor& colour);
+    void pickLast(const WashColor& colour);
     /// A pick in an empty window: into the palette, or the first seed of a harmony.
     void pickForEmpty(const WashColor& colour);
     /// Back to the seeds of a new window.
@@ -204,6 +215,10 @@ public:
     void receiveSeed(const Drag& drag, SeedRole as);
     /// The last seed that follows from a first one while the user has chosen none.
     static WashColor defaultingLast(const WashColor& first);
+    /// Of a new window.
+    static Seeds defaultSeeds();
+    /// Two seeds as a record holds them: the last is the user's unless it follows from the first.
+    static Seeds storedSeeds(const WashColor& first, const WashColor& last);
     void enterPaletteBuilder();
     void markModeChanged();
     /// None in the palette builder. Computed anew only when something of its key has changed.
@@ -280,8 +295,9 @@ public:
     /// What would be said to a drop on the palette; nothing when it is taken.
     std::optional<std::string> refusal(const Drag& of, bool moving) const;
     /// A dropped colour before the swatch at `at` (the count: at the end). A swatch of this palette
-    /// moves; one of another moves when `moving`.
-    void receive(const Drag& drag, std::size_t at, bool moving);
+    /// moves; one of another moves when `moving`: the window that it comes from then has to
+    /// `release` it. Answers whether the drop was taken; a refusal is shown.
+    bool receive(const Drag& drag, std::size_t at, bool moving);
     void explainMoveRefusal();
     /// A swatch of this palette has moved to another window.
     void release(const Uuid& swatch);
@@ -338,14 +354,25 @@ public:
     void exchangeMove(std::size_t from, std::size_t to) override;
 
 private:
-    struct Subscriptions;
+    /// Schedules the record with every change of a persisted property.
+    void subscribe();
 
+    /// Shown over this window unless said otherwise; nothing is shown while restoring.
     void toast(std::string text, double seconds) const;
+    void toast(std::string text, double seconds, ToastPlace where,
+               std::optional<ToastAction> action = {}) const;
     PaletteContent content() const;
-    void checkpointPalette(std::string_view coalescing);
+    void checkpointPalette(std::string_view coalescing = {});
+    /// The swatches and the palette's version. Selection, name edit and colour editor stay with
+    /// their swatches.
     void setSwatches(std::vector<PaletteSwatch> swatches);
+    /// After the user's change: the palette is dirty, its record is scheduled and the other models
+    /// are told.
     void markPaletteChanged();
+    /// Selects and reveals.
     void select(std::size_t index);
+    /// With a fresh identifier and the name as swatches have it.
+    PaletteSwatch freshSwatch(const WashColor& colour, std::optional<std::string> name) const;
 
     const Uuid id_;
     const bool isPrimary_;
@@ -361,7 +388,7 @@ private:
     std::uint64_t saves_ = 0;
     bool restoring_ = false;
     std::unique_ptr<DelayedTask> persistWorkItem_;
-    std::unique_ptr<Subscriptions> subscriptions_;
+    std::vector<QPropertyNotifier> subscriptions_;
     mutable BandsKey bandsKey_;
     mutable std::vector<Harmony::Band> bands_;
     /// Results of background work belong to this window only while it lives, and only the latest

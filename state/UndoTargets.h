@@ -2,6 +2,7 @@
 
 #include "state/BenchContent.h"
 #include "state/PaletteSwatch.h"
+#include "state/PaletteWindows.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -27,6 +28,7 @@ struct PaletteContent {
     /// How often the window had saved: a palette that was clean then is not clean after a save of
     /// something else.
     std::uint64_t saves = 0;
+    FileVersion loadedVersion; ///< of the attached file
 };
 
 /// A palette window as undo sees it: each operation takes a new value in and answers the old one,
