@@ -275,6 +275,7 @@ public:
     void sendToContrast(const WashColor& colour, std::optional<std::string> name, ToastPlace where);
     void sendToContrast(const WashColor& colour, std::optional<std::string> name, Contrast::Role as,
                         ToastPlace where);
+    /// Fills the board up, never lets go of an entry, and shows the board.
     void sendAllToContrast();
     /// Sends the colour, or takes it off the board.
     void toggleContrast(const WashColor& colour, std::optional<std::string> name, ToastPlace where);
@@ -366,9 +367,23 @@ private:
     /// The swatches and the palette's version. Selection, name edit and colour editor stay with
     /// their swatches.
     void setSwatches(std::vector<PaletteSwatch> swatches);
+    void followSwatches(const std::vector<PaletteSwatch>& before);
+    void followInEditor(const std::vector<PaletteSwatch>& before);
     /// After the user's change: the palette is dirty, its record is scheduled and the other models
     /// are told.
     void markPaletteChanged();
+    /// After any change: its record is scheduled and the other models are told.
+    void announcePalette();
+    /// A whole change of the user's, as one: checkpoint, swatches, selection, mark.
+    void changePalette(std::vector<PaletteSwatch> to, std::optional<std::size_t> selecting = {},
+                       std::string_view coalescing = {});
+    void insertSwatch(PaletteSwatch swatch, std::size_t at);
+    /// With the notice, when it is.
+    bool refusesAsFull() const;
+    void selectDuplicate(std::size_t index, const WashColor& colour);
+    void changeSeeds(const Seeds& to, std::string_view coalescing);
+    /// Where the dragged swatch stands, when it is one of this palette's.
+    std::optional<std::size_t> ownSwatch(const Drag& drag) const;
     /// Selects and reveals.
     void select(std::size_t index);
     /// With a fresh identifier and the name as swatches have it.
