@@ -1,0 +1,23 @@
+#pragma once
+
+#include "colour/ColorFormat.h"
+#include "platform/Clipboard.h"
+
+#include <optional>
+#include <span>
+#include <string>
+
+// What is put on the clipboard. A colour without a name goes by its nearest one. Any thread.
+
+namespace tintra {
+
+/// The code, and the colour for programs that take one.
+Clipboard::Content copiedColour(const WashColor& colour, const std::optional<std::string>& name,
+                                ColorFormat format, const FormatOptions& options);
+
+/// A line of code a colour; names in step with `colours`, or fewer.
+Clipboard::Content copiedColours(std::span<const WashColor> colours,
+                                 std::span<const std::optional<std::string>> names,
+                                 ColorFormat format, const FormatOptions& options);
+
+} // namespace tintra
