@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+#include <set>
+#include <string>
+
+namespace tintra {
+
+struct Services;
+class Workspaces;
+
+/// Says once that records cannot be written, and again only after all of them could be. Main loop.
+class KeepingNotice {
+public:
+    KeepingNotice(Services& services, const Workspaces& workspaces);
+    ~KeepingNotice();
+    KeepingNotice(const KeepingNotice&) = delete;
+    KeepingNotice& operator=(const KeepingNotice&) = delete;
+
+private:
+    void failed(const std::string& key, const std::string& why);
+
+    Services& services_;
+    const Workspaces& workspaces_;
+    std::set<std::string> failing_; ///< keys whose record has not reached the disk
+};
+
+} // namespace tintra
