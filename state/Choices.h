@@ -52,11 +52,11 @@ std::string_view rawValue(OpeningState value);
 std::string_view rawValue(HangSide value);
 std::string_view rawValue(CompactOrientation value);
 
-/// The case of a persisted text; nothing for an unknown one. Specialised for every list above.
+/// The case of a persisted text; nothing for an unknown one. Instantiated for every list above.
 template <class Case>
 std::optional<Case> choice(std::string_view raw);
 
-/// Every case in menu order. Specialised for every list above.
+/// Every case in menu order. Instantiated for every list above.
 template <class Case>
 std::span<const Case> allChoices();
 

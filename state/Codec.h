@@ -47,10 +47,15 @@ struct Codec<int> {
     static Json encode(int value) { return value; }
     static std::optional<int> decode(const Json& json);
 };
+template <>
+struct Codec<std::size_t> {
+    static Json encode(std::size_t value) { return value; }
+    static std::optional<std::size_t> decode(const Json& json);
+};
 /// Finite numbers only.
 template <>
 struct Codec<double> {
-    static Json encode(double value) { return value; }
+    static Json encode(double value);
     static std::optional<double> decode(const Json& json);
 };
 template <>
@@ -63,7 +68,8 @@ struct Codec<Uuid> {
     static Json encode(const Uuid& value) { return value.text(); }
     static std::optional<Uuid> decode(const Json& json);
 };
-/// {"r", "g", "b", "a"}; the alpha may be missing and is 1 then.
+/// {"r", "g", "b", "a"}; the alpha may be missing and is 1 then. A component that is not finite is
+/// written as 0.
 template <>
 struct Codec<WashColor> {
     static Json encode(const WashColor& value);

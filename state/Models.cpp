@@ -89,7 +89,7 @@ void Models::setThemeSurfaces(std::function<ThemeSurfaces()> surfaces) {
 Models::Opening Models::start(const std::function<void(const Uuid&)>& openWindow) {
     auto& parts = *parts_;
     parts.preferences.restore();
-    applyProfiles(parts.preferences, ColorProfiles::shared());
+    parts.preferences.follow(ColorProfiles::shared());
     parts.wireBackdrop();
     Opening opening;
     if (parts.preferences.opensWith.value() == OpeningState::resume)

@@ -102,6 +102,8 @@ public:
     /// written at once; everything else stays.
     void resetToDefaults();
     bool restoring() const { return restoring_; }
+    /// Keeps the profiles in step with the settings that choose them, from now on.
+    void follow(ColorProfiles& profiles);
 
 private:
     struct Subscriptions;
@@ -110,8 +112,5 @@ private:
     bool restoring_ = false;
     std::unique_ptr<Subscriptions> subscriptions_;
 };
-
-/// Keeps ColorProfiles in step with the settings that choose profiles, from now on.
-void applyProfiles(Preferences& preferences, ColorProfiles& profiles);
 
 } // namespace tintra
