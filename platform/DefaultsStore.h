@@ -35,6 +35,9 @@ public:
     /// `data` answers and is tried again with the next `set` of its key and with `flush`.
     virtual void
     whenFailing(std::function<void(std::string_view key, const FileError& error)> told) = 0;
+
+    /// Is told, on the main loop, when the last record that could not be written has been.
+    virtual void whenRecovered(std::function<void()> told) = 0;
 };
 
 } // namespace tintra

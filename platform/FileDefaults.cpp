@@ -9,44 +9,57 @@
 namespace tintra {
 
 /// What could not be written and who is to hear of it. Any thread adds, the main loop tells.
-class FileDefaults::Failures {
+class FileDefaults::News {
 public:
-    using Told = std::function<void(std::string_view, const FileError&)>;
+    using Failing = std::function<void(std::string_view, const FileError&)>;
+    using Recovered = std::function<void()>;
+
+    struct Item {
+        std::string key;
+        std::optional<FileError> error; ///< none: nothing fails any more
+    };
 
     /// Whether it is the first since the last were told.
-    bool add(std::string key, FileError error) {
+    bool add(Item item) {
         const std::lock_guard hold(lock_);
-        waiting_.emplace_back(std::move(key), std::move(error));
+        waiting_.push_back(std::move(item));
         return waiting_.size() == 1;
     }
 
-    void whenFailing(Told told) { told_ = std::move(told); }
+    void whenFailing(Failing told) { failing_ = std::move(told); }
+    void whenRecovered(Recovered told) { recovered_ = std::move(told); }
 
     /// Does nothing while it is telling: whoever is told may set records and flush.
     void tell() {
         if (std::exchange(telling_, true)) return;
-        for (const auto& [key, error] : take())
-            if (const auto told = told_) told(key, error);
+        for (const auto& item : take())
+            tell(item);
         telling_ = false;
     }
 
 private:
-    using List = std::vector<std::pair<std::string, FileError>>;
-
-    List take() {
+    std::vector<Item> take() {
         const std::lock_guard hold(lock_);
         return std::exchange(waiting_, {});
     }
 
+    void tell(const Item& item) const {
+        const auto failing = failing_;
+        const auto recovered = recovered_;
+        if (item.error && failing) failing(item.key, *item.error);
+        if (!item.error && recovered) recovered();
+    }
+
     std::mutex lock_;
-    List waiting_; ///< under the lock
-    Told told_;
+    std::vector<Item> waiting_; ///< under the lock
+    Failing failing_;
+    Recovered recovered_;
     bool telling_ = false;
 };
 
 FileDefaults::FileDefaults(Folders folders, MainLoop& mainLoop, const Clock& clock)
     : folders_(std::move(folders)), mainLoop_(mainLoop), clock_(clock),
-      failures_(std::make_shared<Failures>()), writer_([this] { write(); }) {}
+      news_(std::make_shared<News>()), writer_([this] { write(); }) {}
 
 FileDefaults::~FileDefaults() {
     finish();
@@ -82,11 +95,15 @@ void FileDefaults::setAside(std::string_view key) {
 
 void FileDefaults::flush() {
     finish();
-    failures_->tell();
+    news_->tell();
 }
 
 void FileDefaults::whenFailing(std::function<void(std::string_view, const FileError&)> told) {
-    failures_->whenFailing(std::move(told));
+    news_->whenFailing(std::move(told));
+}
+
+void FileDefaults::whenRecovered(std::function<void()> told) {
+    news_->whenRecovered(std::move(told));
 }
 
 RecordFile FileDefaults::file(std::string_view key) const {
@@ -146,12 +163,22 @@ void FileDefaults::writeNext(std::unique_lock<std::mutex>& hold) {
             add(left, std::move(step));
         steps_[key] = std::move(left);
     }
-    if (failed && !newer && failures_->add(key, std::move(*failed)))
-        mainLoop_.post([told = std::weak_ptr(failures_)] {
-            if (const auto failures = told.lock()) failures->tell();
-        });
+    if (!newer) report(key, std::move(failed));
     writing_ = false;
     change_.notify_all();
+}
+
+void FileDefaults::report(const std::string& key, std::optional<FileError> failed) {
+    const bool wasFailing = !failing_.empty();
+    if (failed)
+        failing_.insert(key);
+    else
+        failing_.erase(key);
+    const bool isNews = failed || (wasFailing && failing_.empty());
+    if (isNews && news_->add({key, std::move(failed)}))
+        mainLoop_.post([told = std::weak_ptr(news_)] {
+            if (const auto news = told.lock()) news->tell();
+        });
 }
 
 /// Takes away the steps that succeeded.

@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <set>
 #include <string>
 #include <thread>
 #include <vector>
@@ -42,6 +43,7 @@ public:
     void flush() override;
     void
     whenFailing(std::function<void(std::string_view key, const FileError& error)> told) override;
+    void whenRecovered(std::function<void()> told) override;
 
 private:
     using Record = std::shared_ptr<const std::string>;
@@ -51,7 +53,7 @@ private:
         Record record; ///< what to write
     };
     using Steps = std::deque<Step>;
-    class Failures;
+    class News;
 
     static void add(Steps& steps, Step step);
     RecordFile file(std::string_view key) const;
@@ -59,18 +61,20 @@ private:
     void finish();
     void write();
     void writeNext(std::unique_lock<std::mutex>& hold);
+    void report(const std::string& key, std::optional<FileError> failed);
     std::optional<FileError> perform(const RecordFile& file, Steps& steps) const;
 
     const Folders folders_;
     MainLoop& mainLoop_;
     const Clock& clock_;
     std::map<std::string, Record, std::less<>> known_; ///< null for a record that was removed
-    std::shared_ptr<Failures> failures_;
+    std::shared_ptr<News> news_;
 
     std::mutex lock_; ///< of all that follows
     std::condition_variable change_;
     std::map<std::string, Steps, std::less<>> steps_; ///< what is left to do, also after a failure
     std::deque<std::string> due_;                     ///< keys to be written, each once
+    std::set<std::string> failing_;                   ///< keys whose last try failed
     bool writing_ = false;
     bool ending_ = false;
     std::thread writer_;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <set>
 #include <string>
 
 namespace tintra {
@@ -9,7 +7,8 @@ namespace tintra {
 struct Services;
 class Workspaces;
 
-/// Says once that records cannot be written, and again only after all of them could be. Main loop.
+/// Says once that records cannot be written, and again only after all of them could be written.
+/// Main loop.
 class KeepingNotice {
 public:
     KeepingNotice(Services& services, const Workspaces& workspaces);
@@ -18,11 +17,11 @@ public:
     KeepingNotice& operator=(const KeepingNotice&) = delete;
 
 private:
-    void failed(const std::string& key, const std::string& why);
+    void failed(const std::string& why);
 
     Services& services_;
     const Workspaces& workspaces_;
-    std::set<std::string> failing_; ///< keys whose record has not reached the disk
+    bool isSaid_ = false;
 };
 
 } // namespace tintra

@@ -61,11 +61,13 @@ public:
     void whenFailing(std::function<void(std::string_view, const FileError&)> told) override {
         failing = std::move(told);
     }
+    void whenRecovered(std::function<void()> told) override { recovered = std::move(told); }
 
     std::map<std::string, std::string> records;
     std::map<std::string, int> writes;
     std::vector<std::string> asideKeys;
     std::function<void(std::string_view, const FileError&)> failing;
+    std::function<void()> recovered;
 };
 
 class MemoryClipboard final : public Clipboard {
