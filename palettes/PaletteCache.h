@@ -1,6 +1,6 @@
 #pragma once
 
-#include "colour/Lab.h"
+#include "palettes/ComparedPalette.h"
 #include "palettes/Swatch.h"
 #include "platform/FileStamp.h"
 
@@ -10,6 +10,7 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -20,13 +21,9 @@ struct CachedPalette {
     FileStamp stamp;
     /// Empty when the file could not be read.
     std::vector<PaletteFile::Swatch> swatches;
-    /// What searches compare, made once: see PaletteSearch.h.
-    struct Compared {
-        Lab labD50, labD65;
-        double hue = 0, saturation = 0; ///< HSB: hue in degrees
-    };
-    std::vector<Compared> compared;       ///< in step with `swatches`
-    std::vector<std::string> foldedNames; ///< names folded for search; in step with `swatches`
+    ComparedPalette compared; ///< the swatches, for searches
+
+    bool isReadable() const { return !swatches.empty(); }
 };
 
 /// The decoded swatches of palette files, each by its file and the file's stamp. Any thread.
@@ -36,7 +33,8 @@ public:
 
     /// What was read before, whether or not the file has changed since; null before the first read.
     Found cached(const std::filesystem::path& file) const;
-    /// Reads the file unless it is cached as it is now. Null when there is no such file.
+    /// Reads the file unless it is cached as it is now; one that could not be read is tried again.
+    /// Null when there is no such file, or no regular one.
     Found warm(const std::filesystem::path& file);
     /// The same for swatches that do not come from a file.
     Found keep(const std::filesystem::path& key, std::vector<PaletteFile::Swatch> swatches);
@@ -47,9 +45,12 @@ public:
     std::vector<std::optional<std::string>> names(const std::filesystem::path& file) const;
 
     /// Drops the files that `keeps` refuses.
-    void retain(const std::function<bool(const std::filesystem::path&)>& keeps);
+    void retain(const std::function<bool(std::string_view file)>& keeps);
 
 private:
+    Found add(const std::filesystem::path& key, const FileStamp& stamp,
+              std::vector<PaletteFile::Swatch> swatches);
+
     mutable std::mutex lock_;
     std::unordered_map<std::string, Found> palettes_; ///< by path
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "palettes/FoldedText.h"
 #include "palettes/PaletteCache.h"
 
 #include <cstddef>
@@ -37,29 +38,39 @@ struct PaletteHit {
     bool operator==(const PaletteHit&) const = default;
 };
 
+/// The colour that the whole of a text is; nothing for a text that merely mentions one, and for
+/// hexadecimal digits that may be a word ("facade" and "f80" are none; "#facade", "1e4d6b",
+/// "red", "rgb(1 2 3)" and "255, 128, 0" are colours).
+std::optional<WashColor> searchedColour(std::string_view text);
+
 /// What a search field asks for.
 class PaletteQuery {
 public:
-    /// The text is a colour when the whole of it is one ("#facade", not "facade"), else words.
+    /// The text is a colour when the whole of it is one, else words; a text in double quotes is
+    /// words in any case ("\"coral\""). The illuminant is the one selected now.
     PaletteQuery(std::string_view text, ColourMatch match);
 
-    bool isEmpty() const { return words_.empty() && !color_; }
+    bool isEmpty() const { return words_.isEmpty() && !color_; }
     const std::optional<WashColor>& color() const { return color_; }
     ColourMatch match() const { return match_; }
 
     /// The swatch of smallest distance, the earlier of equal ones; or the palette's name, else the
-    /// first swatch name that holds the words. Letter case and accents do not count.
-    std::optional<PaletteHit> hit(std::string_view paletteName, const CachedPalette& palette) const;
+    /// first swatch name that holds the words. Letter case and accents do not count. An empty
+    /// query finds nothing.
+    std::optional<PaletteHit> hit(const FoldedText& paletteName,
+                                  const CachedPalette& palette) const;
 
 private:
+    std::optional<PaletteHit> colourHit(const ComparedPalette& palette) const;
+    std::optional<PaletteHit> wordsHit(const FoldedText& paletteName,
+                                       const ComparedPalette& palette) const;
+
     ColourMatch match_;
     std::optional<WashColor> color_;
-    std::optional<CachedPalette::Compared> compared_;
-    bool underD65_ = false;
-    std::string words_; ///< folded
+    LabIlluminant illuminant_;
+    Lab lab_;                   ///< of the colour
+    std::optional<double> hue_; ///< of the colour, unless it is greyish
+    FoldedText words_;
 };
-
-/// The comparable form of a colour.
-CachedPalette::Compared compared(const WashColor& color);
 
 } // namespace tintra

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "palettes/DrawingPrograms.h"
 #include "palettes/PaletteCache.h"
+#include "palettes/PaletteEntry.h"
 #include "palettes/PaletteExport.h"
 #include "palettes/PaletteLocation.h"
 #include "palettes/PaletteSearch.h"
+#include "palettes/SystemPalettes.h"
 #include "platform/Trash.h"
 
-#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -24,45 +26,7 @@ namespace tintra {
 class Background;
 class FolderWatch;
 class MainLoop;
-
-/// A palette that the Library lists.
-struct PaletteEntry {
-    /// What holds a palette: a watched folder, the colour picker's folder, or the system.
-    enum class Group { location, colourPicker, system };
-    enum class State {
-        loading, ///< not read yet
-        ready,
-        unreadable, ///< shown as name + " could not be read"
-    };
-
-    std::string name;          ///< of the file, without extension
-    std::filesystem::path url; ///< empty for a palette that is made by rule
-    Group group = Group::location;
-    std::optional<Uuid> location; ///< of a watched folder
-    std::size_t count = 0;        ///< of its swatches; 0 until it is read
-    std::chrono::system_clock::time_point modified;
-    bool isEditable = true; ///< false for system palettes and what may not be written
-    State state = State::loading;
-    PaletteCache::Found palette; ///< null until it is read
-
-    /// Who it is across rescans: its path, or its name.
-    std::string key() const;
-    bool operator==(const PaletteEntry&) const = default;
-};
-
-/// How the Library is sorted: by date when asked, else by name, else by count; ties by name as a
-/// file browser sorts names.
-struct PaletteOrder {
-    bool byName = true, byDate = false, ascending = true;
-};
-std::vector<PaletteEntry> sorted(std::vector<PaletteEntry> entries, const PaletteOrder& order);
-
-/// A folder of drawing programs into which palettes can be put ("Install for…").
-struct InstallTarget {
-    std::string title; ///< "GIMP 2.10"
-    std::filesystem::path folder;
-    bool operator==(const InstallTarget&) const = default;
-};
+class PaletteList;
 
 /// Where the store finds things and what it needs; handed in at start.
 struct PaletteSurroundings {
@@ -70,7 +34,7 @@ struct PaletteSurroundings {
     Background& background;
     FolderWatch& folderWatch;
     Trash& trash;
-    std::filesystem::path colorsDirectory;            ///< the colour picker's lists
+    std::filesystem::path colorsDirectory;            ///< the colour picker's lists; empty for none
     std::vector<std::filesystem::path> systemFolders; ///< read-only palettes of the system
     std::vector<InstallTarget> installTargets;        ///< those that exist are offered
     /// The palette folders of this machine: `colors` in the user's data folder, the folders that
@@ -80,7 +44,8 @@ struct PaletteSurroundings {
 };
 
 /// The palettes of the watched folders, the colour picker and the system. Files are listed and read
-/// in the background; what arrives after a later rescan is dropped. Main loop.
+/// in the background; what arrives after a later rescan is dropped. A folder that changes is read
+/// again by itself. Main loop.
 class PaletteStore {
 public:
     using Entry = PaletteEntry;
@@ -93,10 +58,11 @@ public:
     /// Is told after `available` has changed, once a turn of the loop.
     void whenChanged(std::function<void()> told);
 
-    /// What to list from now on; rescans.
-    void setLocations(std::vector<PaletteLocation> locations, bool system);
-    /// Reads every folder again.
+    /// What to list from now on; rescans. Entries of locations that stay, stay meanwhile.
+    void setLocations(const std::vector<PaletteLocation>& locations, bool system);
+    /// Lists every folder again and reads the files that have changed.
     void rescan();
+    bool isScanning() const;
     /// How far a scan is; equal when none is under way.
     struct Progress {
         std::size_t read = 0, found = 0;
@@ -109,12 +75,13 @@ public:
     /// picker, then the system's; by file name within each.
     const std::vector<PaletteEntry>& available() const;
     const PaletteEntry* entry(const std::string& key) const;
-    /// Whether a location's folder could be listed at the last scan.
+    /// Whether a location's folder could be listed at the last scan; true before the first one.
     bool isOnline(const Uuid& location) const;
 
     /// A search: every listed palette that the query finds, in the order of `available`.
     struct Hit {
-        std::string key; ///< of the entry
+        std::string key;   ///< of the entry
+        std::size_t index; ///< of the entry in `available`, as long as that does not change
         PaletteHit hit;
     };
     std::vector<Hit> find(const PaletteQuery& query) const;
@@ -125,7 +92,8 @@ public:
     };
     std::optional<Wider> wider(std::string_view text, ColourMatch than) const;
 
-    // The colour picker's lists. `colorsDirectory` is made when first written to.
+    // The colour picker's lists. `colorsDirectory` is made when first written to. A name that is
+    // unfit for a file is made fit ("50/50" is kept as "50-50"); an empty one is refused.
 
     const std::filesystem::path& colorsDirectory() const;
     /// Nothing while access has not been granted; on platforms where the path is the access, the
@@ -154,10 +122,11 @@ public:
                                            std::string_view as, const InstallTarget& into,
                                            Clash clash);
 
-    // Files of entries
+    // Files of entries. A name that is unfit for a file is refused (see whyUnfit in
+    // palettes/FileNames.h). A colour list and the GIMP palette beside it go together.
 
-    /// Where a copy of that name would go: beside the original, with its extension; a list made by
-    /// rule goes to the colour picker.
+    /// Where a copy of that name would go: beside the original, with its extension; a copy of a
+    /// system palette goes to the colour picker as a colour list.
     std::filesystem::path placeOfCopy(const PaletteEntry& of, std::string_view name) const;
     std::optional<FileError> duplicate(const PaletteEntry& entry, std::string_view name);
     std::optional<FileError> rename(const PaletteEntry& entry, std::string_view name);
@@ -169,11 +138,26 @@ public:
     PaletteCache& cache();
 
 private:
-    struct Scan;
-    std::unique_ptr<Scan> scan_;
-};
+    /// A file that went to the Trash together with one of `trashed_`.
+    struct Companion {
+        std::filesystem::path of; ///< in the Trash
+        TrashedFile file;
+    };
 
-/// The 216 colours whose components are multiples of 51, as "Web Safe Colours" lists them.
-std::vector<PaletteFile::Swatch> webSafeColours();
+    std::optional<FileError> duplicateAsColourList(const PaletteEntry& entry,
+                                                   std::string_view name);
+    void noteTrashed(const std::vector<TrashedFile>& files);
+    std::variant<Saved, FileError> put(const std::filesystem::path& folder, std::string_view as,
+                                       std::span<const ExportFormat> formats,
+                                       std::span<const WashColor> colors,
+                                       std::span<const std::optional<std::string>> names,
+                                       Clash clash);
+
+    PaletteSurroundings surroundings_;
+    std::shared_ptr<PaletteList> list_;
+    std::uint64_t scanGeneration_ = 0;
+    std::vector<TrashedFile> trashed_;
+    std::vector<Companion> companions_;
+};
 
 } // namespace tintra

@@ -228,4 +228,23 @@ bool sortsBefore(std::string_view a, std::string_view b) {
     return collator->compareUTF8(piece(a), piece(b), status) == UCOL_LESS;
 }
 
+std::string sortKey(std::string_view text) {
+    const auto* collator = numberAware();
+    if (collator == nullptr) return std::string(text);
+    const auto units = unicode(text);
+    std::string key(text.size() * 2 + 8, '\0');
+    const auto fill = [&] {
+        return static_cast<std::size_t>(
+            collator->getSortKey(units, reinterpret_cast<std::uint8_t*>(key.data()),
+                                 static_cast<std::int32_t>(key.size())));
+    };
+    auto size = fill();
+    if (size > key.size()) {
+        key.resize(size);
+        size = fill();
+    }
+    key.resize(size);
+    return key;
+}
+
 } // namespace tintra

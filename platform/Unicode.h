@@ -47,4 +47,7 @@ std::string otherThanWordsTo(char other, std::string_view text);
 /// digits by their number.
 bool sortsBefore(std::string_view a, std::string_view b);
 
+/// Bytes that compare as `sortsBefore` sorts the texts: for lists that are sorted again and again.
+std::string sortKey(std::string_view text);
+
 } // namespace tintra

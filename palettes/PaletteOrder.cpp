@@ -1,0 +1,50 @@
+#include "palettes/PaletteEntry.h"
+#include "platform/Unicode.h"
+
+#include <algorithm>
+#include <compare>
+#include <numeric>
+
+namespace tintra {
+
+namespace {
+
+/// Entries that no scan made may lack their keys.
+std::vector<std::string> missingKeys(const std::vector<PaletteEntry>& entries) {
+    if (std::ranges::none_of(entries, [](const auto& e) { return e.sortKey.empty(); })) return {};
+    std::vector<std::string> keys;
+    for (const auto& entry : entries)
+        keys.push_back(sortKey(entry.name));
+    return keys;
+}
+
+} // namespace
+
+std::vector<std::size_t> sortedPositions(const std::vector<PaletteEntry>& entries,
+                                         const PaletteOrder& order) {
+    const auto keys = missingKeys(entries);
+    const auto byName = [&](std::size_t a, std::size_t b) {
+        return keys.empty() ? entries[a].sortKey <=> entries[b].sortKey : keys[a] <=> keys[b];
+    };
+    const auto compared = [&](std::size_t a, std::size_t b) -> std::strong_ordering {
+        if (order.byDate) return entries[a].modified <=> entries[b].modified;
+        return order.byName ? byName(a, b) : entries[a].count <=> entries[b].count;
+    };
+    std::vector<std::size_t> positions(entries.size());
+    std::iota(positions.begin(), positions.end(), std::size_t{0});
+    std::ranges::stable_sort(positions, [&](std::size_t a, std::size_t b) {
+        const auto first = order.ascending ? compared(a, b) : compared(b, a);
+        return first == 0 ? byName(a, b) < 0 : first < 0;
+    });
+    return positions;
+}
+
+std::vector<PaletteEntry> sorted(std::vector<PaletteEntry> entries, const PaletteOrder& order) {
+    std::vector<PaletteEntry> result;
+    result.reserve(entries.size());
+    for (const auto position : sortedPositions(entries, order))
+        result.push_back(std::move(entries[position]));
+    return result;
+}
+
+} // namespace tintra
