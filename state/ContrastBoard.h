@@ -17,6 +17,7 @@
 namespace tintra {
 
 struct Services;
+struct StoredContrast;
 
 /// The model behind the contrast window: the colours that it holds, in the user's order, which of
 /// them is the text and which the ground, and how they are read. Main loop.
@@ -37,11 +38,17 @@ public:
     struct Content {
         std::vector<Entry> entries;
         std::optional<Uuid> textID, groundID;
+        /// Identifiers of the entries, the longest held first; the board keeps it complete.
+        std::vector<Uuid> arrivals;
         bool operator==(const Content&) const = default;
     };
 
+    static constexpr std::string_view kKey = "TintraContrast"; ///< of the record
     static constexpr std::size_t kCapacity = 32;
     static constexpr std::size_t kMatrixSize = 10;
+    // Of the specimen's size, px, and weight; a record's are brought into them.
+    static constexpr double kSmallestSize = 1, kLargestSize = 1000;
+    static constexpr int kLightestWeight = 100, kHeaviestWeight = 900;
     static constexpr std::string_view kDefaultSpecimen =
         "Paste the words you are actually setting. A pair can pass on the numbers and still be "
         "hard to read at this size and weight, and looking is the only check for that.";
@@ -68,7 +75,7 @@ public:
     const std::vector<Entry>& entries() const { return content_.value().entries; }
     std::optional<Uuid> textID() const { return content_.value().textID; }
     std::optional<Uuid> groundID() const { return content_.value().groundID; }
-    /// Six upper-case digits each.
+    /// Six upper-case digits each, in plain sRGB.
     std::set<std::string> heldHexes() const;
     /// The entry of that identity (alpha included); none when the board holds no such colour.
     const Entry* held(const WashColor& color) const;
@@ -90,7 +97,8 @@ public:
     /// Takes out and answers the oldest entry that is neither the text nor the ground; nothing when
     /// there is none.
     std::optional<Entry> letGoOfOldestLoose();
-    /// Gives an entry a role; the role's last holder stays as an entry.
+    /// Gives an entry a role; the role's last holder stays as an entry, and takes the role that the
+    /// entry had.
     void setRole(Role role, const Uuid& id);
     /// The text becomes the ground and the other way round.
     void exchangeRoles();
@@ -108,6 +116,8 @@ public:
     /// Asks first when a colour would be lost, one that no open palette holds; the notice offers to
     /// undo.
     void clearAsking();
+    /// Takes another content in and answers the one before; a role whose entry is not there is
+    /// none.
     Content exchangeContent(Content other);
 
     /// By relative luminance, stable. `withinMatrix` sorts the first ten only. Answers the order
@@ -125,14 +135,23 @@ public:
     std::string verdict(double ratio) const;
     std::string typeDescription() const;
 
-    /// Writes the record "TintraContrast".
+    /// Writes the record.
     void captureForQuit();
-    /// Reads it, once.
+    /// Reads it, once. One that is damaged is set aside, and the board stays as it is.
     void restoreIfNeeded();
     bool hasRestored() const { return hasRestored_; }
     bool wasOpenAtLastQuit() const { return wasOpenAtLastQuit_; }
 
 private:
+    void setContent(Content to);
+    /// Of the entries, by identity with alpha, how many no open palette holds.
+    std::size_t countOfUnkept() const;
+    void clearOfferingUndo();
+    /// What was cleared, and what came since as far as there is room.
+    void bringBack(Content cleared);
+    StoredContrast stored() const;
+    void apply(const StoredContrast& stored);
+
     Services& services_;
     const OpenPalettes& palettes_;
     QProperty<Content> content_;

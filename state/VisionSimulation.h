@@ -43,6 +43,9 @@ public:
     FrontCapabilities capabilities() const;
 
 private:
+    /// Where the front window keeps its vision; none when it has none.
+    QProperty<Vision>* visionOfFront() const;
+
     Workspaces& workspaces_;
     Bench& bench_;
     ContrastBoard& contrast_;
