@@ -121,7 +121,7 @@ public:
     // The palette
 
     const QProperty<std::vector<PaletteSwatch>>& customPalette() const { return palette_; }
-    const std::vector<PaletteSwatch>& swatches() const { return palette_.value(); }
+    const std::vector<PaletteSwatch>& swatches() const override { return palette_.value(); }
     std::vector<WashColor> colors() const;
     /// Given names, in step with `colors`.
     std::vector<std::optional<std::string>> names() const;

@@ -36,6 +36,8 @@ struct PaletteContent {
 class PaletteUndoTarget {
 public:
     virtual ~PaletteUndoTarget() = default;
+    /// The palette as it stands, so that a step can be called by what it changes.
+    virtual const std::vector<PaletteSwatch>& swatches() const = 0;
     virtual PaletteContent exchangePalette(PaletteContent other) = 0;
     virtual Seeds exchangeSeeds(Seeds other) = 0;
     /// The same swatch from one place to another (counted without it).
