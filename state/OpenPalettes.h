@@ -10,6 +10,9 @@ namespace tintra {
 
 /// Where a swatch was when it was last seen.
 struct PaletteOrigin {
+    /// The place of a swatch whose record did not tell it.
+    static constexpr std::size_t kUnknownIndex = static_cast<std::size_t>(-1);
+
     std::optional<std::string> paletteName; ///< none for an untitled palette
     Uuid windowID;
     Uuid swatchID;
