@@ -83,6 +83,18 @@ const std::vector<Command>& table() {
           {"tintra extract *.png --count 5 --emphasis vibrant", "five strong colours of each"},
           {"tintra extract poster.svg -o poster.ase", "a palette file"}},
          declareExtract},
+        {"library",
+         "The palettes in folders",
+         "Lists the palette files directly in each folder: their number of colours, name and path. "
+         "--find takes a palette's name, a swatch's name or a colour and lists only the palettes "
+         "that have it; put a name that is a colour too in double quotes. Folders are read, never "
+         "changed.",
+         {{"tintra library ~/palettes", "every palette"},
+          {"tintra library ~/palettes --find '#1e4d6b' --match exact", "which hold this colour"},
+          {"tintra library . ~/palettes --find harbour --sort date --descending",
+           "by name, the newest first"},
+          {"tintra library ~/palettes --find '\"coral\"'", "by a name that is a colour too"}},
+         declareLibrary},
         {"formats",
          "The formats that can be chosen",
          "Lists the formats of code (for “tintra code”) and of palette files (for “tintra "

@@ -45,6 +45,7 @@ Action declareVision(Declaration& declaration);
 Action declareRead(Declaration& declaration);
 Action declareConvert(Declaration& declaration);
 Action declareExtract(Declaration& declaration);
+Action declareLibrary(Declaration& declaration);
 Action declareFormats(Declaration& declaration);
 Action declareProfiles(Declaration& declaration);
 

@@ -89,4 +89,14 @@ std::optional<PaletteHit> PaletteQuery::wordsHit(const FoldedText& paletteName,
     return PaletteHit{swatch, std::nullopt};
 }
 
+std::optional<WiderMatch> widerMatch(std::string_view text, ColourMatch than,
+                                     const std::function<std::size_t(const PaletteQuery&)>& count) {
+    for (const auto match : allColourMatches()) {
+        const PaletteQuery query(text, match);
+        if (match <= than || !query.color()) continue;
+        if (const auto found = count(query)) return WiderMatch{match, found};
+    }
+    return std::nullopt;
+}
+
 } // namespace tintra

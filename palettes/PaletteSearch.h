@@ -4,6 +4,7 @@
 #include "palettes/PaletteCache.h"
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -72,5 +73,14 @@ private:
     std::optional<double> hue_; ///< of the colour, unless it is greyish
     FoldedText words_;
 };
+
+/// A match that finds what a narrower one did not.
+struct WiderMatch {
+    ColourMatch match;
+    std::size_t count; ///< of palettes
+};
+/// The next wider match under which the text finds something; nothing for a text of words.
+std::optional<WiderMatch> widerMatch(std::string_view text, ColourMatch than,
+                                     const std::function<std::size_t(const PaletteQuery&)>& count);
 
 } // namespace tintra

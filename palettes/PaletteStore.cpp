@@ -118,13 +118,7 @@ std::vector<PaletteStore::Hit> PaletteStore::find(const PaletteQuery& query) con
 
 std::optional<PaletteStore::Wider> PaletteStore::wider(std::string_view text,
                                                        ColourMatch than) const {
-    for (const auto match : allColourMatches()) {
-        if (match <= than) continue;
-        const PaletteQuery query(text, match);
-        if (!query.color()) return std::nullopt;
-        if (const auto count = find(query).size()) return Wider{match, count};
-    }
-    return std::nullopt;
+    return widerMatch(text, than, [&](const PaletteQuery& query) { return find(query).size(); });
 }
 
 } // namespace tintra

@@ -86,10 +86,7 @@ public:
     };
     std::vector<Hit> find(const PaletteQuery& query) const;
     /// When nothing is found: the next wider match that finds something, and how many palettes.
-    struct Wider {
-        ColourMatch match;
-        std::size_t count;
-    };
+    using Wider = WiderMatch;
     std::optional<Wider> wider(std::string_view text, ColourMatch than) const;
 
     // The colour picker's lists. `colorsDirectory` is made when first written to. A name that is

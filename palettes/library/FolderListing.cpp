@@ -40,10 +40,9 @@ std::optional<ListedFile> listedFile(const fs::directory_entry& entry, Listed li
 
 FolderListing listFolder(const fs::path& folder, Listed listed) {
     FolderListing listing;
-    std::error_code failed;
     const bool isWritable = ::access(folder.c_str(), W_OK) == 0;
-    fs::directory_iterator at(folder, failed);
-    listing.isOnline = !failed;
+    fs::directory_iterator at(folder, listing.failed);
+    std::error_code failed = listing.failed;
     for (const fs::directory_iterator end; !failed && at != end; at.increment(failed)) {
         auto file = listedFile(*at, listed);
         if (!file) continue;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace tintra {
@@ -20,7 +21,7 @@ struct ListedFile {
 
 /// What stood in a folder when it was listed.
 struct FolderListing {
-    bool isOnline = false;         ///< the folder could be listed
+    std::error_code failed;        ///< why the folder could not be listed, if so
     std::vector<ListedFile> files; ///< sorted as a file browser sorts names
 };
 

@@ -62,10 +62,10 @@ void SourceScan::list() {
         files_.push_back({std::move(listed), std::move(palette), place, isTold});
         if (isTold) ++place;
     }
-    post([this, isOnline = listing.isOnline, all = entries()] {
+    post([this, isOnline = !listing.failed, all = entries()] {
         told_.listed(isOnline, all, toRead_.size());
     });
-    isOnline_ = listing.isOnline;
+    isOnline_ = !listing.failed;
     if (toRead_.empty()) return finish();
     for (int i = 0; i < kAbreast; ++i)
         background_.run([self = shared_from_this()] { self->readSome(); });
