@@ -118,7 +118,7 @@ void reportNothing(Session& session, const FolderPalettes& palettes,
                 return query.hit(entry.searchedName, *entry.palette).has_value();
             }));
     });
-    auto why = fmt::format("no palette has it {}", explanation(match));
+    auto why = fmt::format("no palette holds it ({})", explanation(match));
     if (wider)
         why += fmt::format("; --match {} would find {}", rawValue(wider->match), wider->count);
     session.failure(subject, why);
