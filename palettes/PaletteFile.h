@@ -52,6 +52,10 @@ std::optional<std::vector<Swatch>> readNamed(const std::filesystem::path& file,
 /// A file's content read as one kind.
 std::optional<std::vector<Swatch>> read(ByteView data, Kind kind, LeftOut* leftOut = nullptr);
 
+/// Whether a content of which `read` makes nothing is a whole palette of no colours, rather than
+/// something else.
+bool isEmpty(ByteView data, Kind kind);
+
 /// Adobe Swatch Exchange 1.0; groups are flattened.
 std::optional<std::vector<Swatch>> ase(ByteView data, LeftOut* leftOut = nullptr);
 /// Photoshop colour swatches; the first section only.
