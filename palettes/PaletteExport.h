@@ -63,6 +63,10 @@ std::optional<Bytes> data(ExportFormat format, std::span<const WashColor> colors
                           std::span<const std::optional<std::string>> names, std::string_view name,
                           const FormatOptions& options);
 
+/// Whether a stylesheet is just what the writer makes of its colours, apart from its first line and
+/// the case of letters: then writing the palette back into it loses nothing.
+bool isAsWritten(std::string_view stylesheet, ExportFormat format);
+
 // The writers. Hex codes and 0...255 numbers of the text formats follow the RGB space selected in
 // ColorProfiles, as in code; GPL and the formats of bytes hold sRGB. Any bytes may stand in a name:
 // what a language forbids or reads as its own is escaped, replaced or made a blank.
