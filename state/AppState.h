@@ -7,6 +7,7 @@
 #include "palettes/ImagePalette.h"
 #include "palettes/PaletteExport.h"
 #include "palettes/PaletteStore.h"
+#include "platform/Dialogues.h"
 #include "platform/MainLoop.h"
 #include "platform/Toasts.h"
 #include "state/Choices.h"
@@ -20,11 +21,14 @@
 #include <QProperty>
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <filesystem>
 #include <functional>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -72,10 +76,13 @@ public:
         std::shared_ptr<const Picture> picture;
         std::string name;          ///< of its file
         std::filesystem::path url; ///< empty for a picture that came without a file
-        int count = 0;             ///< of colours asked for, own pins not counted
+        int count = 0;             ///< of colours, own pins not counted
         ImagePalette::Emphasis emphasis = ImagePalette::Emphasis::dominant;
         std::vector<ImagePalette::Extracted> found; ///< in order, the user's own pins last
         bool extracting = false;                    ///< colours are on their way
+        int most = ImagePalette::kMostColours;      ///< the picture is known to have no more
+        /// Held by whoever reads the picture, on whatever thread.
+        std::shared_ptr<std::mutex> inUse = std::make_shared<std::mutex>();
         bool operator==(const ImageSource& other) const;
     };
 
@@ -233,30 +240,49 @@ public:
     void newPalette();
     /// The same, in the palette builder.
     void startNewPalette();
+    /// Asks for a palette file, then the same as with it.
+    void open();
     /// Reads a palette file in the background and loads it.
     void open(const std::filesystem::path& file);
     void loadPalette(const PaletteStore::Entry& entry);
     /// Shows a palette: asks about unsaved changes; opens a new window when a harmony would go.
     void loadPalette(LoadedPalette palette);
-    /// To the file it came from, or asks where. `done` is told whether it was saved.
+    /// To the file it came from, or asks where; into the colour picker when that file cannot be
+    /// written back. `done` is told whether it was saved, also by the other saves.
     void savePalette(Done done = {});
-    /// As a colour list of the system colour picker.
+    /// As a colour list of the system colour picker, to which the window is attached from then on.
     void savePalette(std::string_view as, PaletteStore::Clash clash, Done done = {});
+    /// Asks where and in which format.
+    void saveAs(Done done = {});
+    /// A file that can be read again becomes the window's file; any other is an export, which
+    /// leaves the window as it is.
     void saveAs(const std::filesystem::path& to, ExportFormat format, Done done = {});
     /// Asks about other windows' saves and lost alpha, then writes.
     void saveBack(const std::filesystem::path& to, Done done);
+    /// The swatches as they are now, in the background; swatches edited meanwhile stay unsaved.
     void saveWithoutAsking(const std::filesystem::path& to, ExportFormat format, Done done);
+    /// The window's file beside itself; without a name it is asked for.
+    void duplicatePalette();
     void duplicatePalette(std::string_view as);
+    /// The window's file; without a name it is asked for.
+    void renamePalette();
     void renamePalette(std::string_view to);
+    /// Moves the window's file to the Trash; the swatches stay, without a file. The notice offers
+    /// to put it back.
     void trashPalette();
-    /// What another window saved to this window's file.
+    /// Shows the window's file in the file browser.
+    void revealPalette();
+    /// What another window saved to this window's file; nothing when there are unsaved changes.
     void takeSaved(const AppState& from);
     void recordSaved(const std::filesystem::path& file);
+    /// `answered` is told of Replace and Cancel; Save As… tells `done`.
     void askAboutMovedSource(std::function<void(bool replace)> answered, Done done);
     /// Asks before unsaved changes go; `answered` is told whether to go on. `action` is a phrase
     /// such as "quitting".
     void confirmDiscardingChanges(std::string_view before, std::function<void(bool)> answered);
+    /// Asks for a name; the window stays attached to its own file, if it has one.
     void installInColourPicker();
+    /// The same into the palette folder of a drawing program.
     void installFor(const InstallTarget& target);
 
     // Library locations (AppStateLibrary.cpp)
@@ -318,9 +344,14 @@ public:
     /// "Add All to Palette": asks when the palette holds something.
     void applyExtraction();
     void applyExtraction(Arriving arriving);
+    /// The colour there becomes a swatch, with a pin of the user's own; a palette that refuses it
+    /// says so, and there is no pin.
     void addPin(ImagePalette::Point at);
+    /// Its swatch, if there is one, takes the colour there. The pin is the user's own from then on.
     void movePin(std::size_t pin, ImagePalette::Point to);
+    /// With its swatch.
     void removePin(std::size_t pin);
+    /// The swatches of this palette that have pins, in the order of pins.
     std::vector<Uuid> pinSwatchIDs() const;
 
     // Window (AppStateWindow.cpp)
@@ -355,6 +386,8 @@ public:
     void exchangeMove(std::size_t from, std::size_t to) override;
 
 private:
+    struct Persisted;
+
     /// Schedules the record with every change of a persisted property.
     void subscribe();
 
@@ -389,6 +422,100 @@ private:
     /// With a fresh identifier and the name as swatches have it.
     PaletteSwatch freshSwatch(const WashColor& colour, std::optional<std::string> name) const;
 
+    // Files
+
+    /// Where saving puts the palette.
+    enum class Home {
+        nowhere,      ///< the user is asked
+        file,         ///< back to its file
+        colourPicker, ///< its file is a colour list of the colour picker
+        unwritable,   ///< its file is of a kind that is not written: to the colour picker
+        readOnly,     ///< its source is never written: to the colour picker
+    };
+    Home home() const;
+    /// The words for it in the question about unsaved changes.
+    std::string homeText() const;
+    struct Reading;
+    static Reading readPalette(const std::filesystem::path& file);
+    /// Reads swatches in the background and loads them; `shown` names the palette in a refusal.
+    void load(LoadedPalette palette, std::string shown, std::function<Reading()> read);
+    void show(LoadedPalette palette);
+    void leaveUntitled();
+    void takeRead(std::vector<PaletteFile::Swatch> now, const FileVersion& version);
+    void attach(PaletteAttachment to);
+    void moveTo(PaletteAttachment file);
+    void takeBack(const PaletteAttachment& file);
+    /// Goes on when no location but `except` watches the folder; otherwise says so.
+    void whenUnwatched(const std::filesystem::path& folder, std::optional<Uuid> except,
+                       std::function<void()> then);
+    void relocate(const Uuid& id, const std::filesystem::path& folder);
+    /// The window's file as the Library knows it.
+    PaletteStore::Entry entryOfFile() const;
+    void askFileName(NameQuestion question, void (AppState::*then)(std::string_view));
+
+    // Saving
+
+    struct Saving;
+    /// What a save that is under way delays.
+    void afterSaves(std::function<void()> then);
+    void saved(const Saving& saving, const std::optional<FileError>& error);
+    std::vector<std::string> translucentNames() const;
+    bool losesAlpha(ExportFormat format) const;
+    bool sourceMoved(const std::filesystem::path& file) const;
+    void saveBackAs(const std::filesystem::path& to, ExportFormat format, Done done);
+    void askAboutAlpha(const std::filesystem::path& to, ExportFormat format, Done done);
+    void askWhereToSave(ExportFormat proposed, Done done);
+    void saveNext();
+    /// Into the colour picker, as the source cannot be written; `said`: the notice.
+    void saveInsteadOf(const std::string& source, const std::string& said, Done done);
+    /// The palette, as it was at that version, is kept in this file.
+    void keep(PaletteAttachment in, std::uint64_t version);
+
+    // The colour picker (AppStateColourPicker.cpp)
+
+    /// The notice about a palette that was kept under a name.
+    using Said = std::function<std::string(std::string_view name)>;
+    void saveInPicker(std::string_view as, PaletteStore::Clash clash, const Said& said, Done done);
+    /// Asks when there is a list of that name.
+    void saveInPickerAsking(const std::string& as, Said said, Done done);
+    /// Nothing is answered for Cancel.
+    void askAboutClash(std::string_view name,
+                       std::function<void(std::optional<PaletteStore::Clash>)> answered);
+    void askToReplace(std::string_view name, std::string_view text,
+                      std::function<void(std::optional<PaletteStore::Clash>)> answered);
+    void withColorsFolder(std::function<void(bool granted)> then);
+    void askWhatToInstallAs(std::string title, std::string note,
+                            std::function<void(std::string)> then);
+    void install(const std::string& as);
+    void installCopy(const std::string& as, PaletteStore::Clash clash);
+    void askToRenameList(const std::string& as, PaletteStore::Clash clash);
+    void renameList(const std::string& as, PaletteStore::Clash clash);
+    void installFor(const InstallTarget& target, const std::string& as);
+    void sayInstalled(const std::string& as,
+                      const std::variant<PaletteStore::Saved, FileError>& result, const Said& said);
+
+    // Pictures
+
+    struct PictureRead;
+    static PictureRead readPicture(const OpenedPicture& opened, ImagePalette::Emphasis emphasis);
+    struct PinMove {
+        std::size_t pin;
+        ImagePalette::Point to;
+    };
+    void load(std::function<OpenedPicture()> picture, std::string name, std::filesystem::path url);
+    void show(PictureRead read, const std::string& name, const std::filesystem::path& url);
+    void extracted(ImagePalette::Colours colours, const ImageSource& before);
+    /// What was found, then the user's own pins.
+    static void take(std::vector<ImagePalette::Extracted> found, int asked, ImageSource& into);
+    void askAboutExisting();
+    void linkFoundToSwatches();
+    /// The colour there, in the background; dropped when the pins have changed meanwhile.
+    void readPixel(ImagePalette::Point at, std::function<void(std::optional<WashColor>)> then);
+    void readNextMove();
+    void pinMoved(const PinMove& move, const WashColor& colour);
+    std::optional<std::size_t> swatchOf(const ImagePalette::Extracted& pin) const;
+    std::string displayKey() const;
+
     const Uuid id_;
     const bool isPrimary_;
     AppContext context_;
@@ -409,7 +536,17 @@ private:
     /// Results of background work belong to this window only while it lives, and only the latest
     /// of a kind counts.
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+    std::uint64_t loadTurn_ = 0;
+    std::uint64_t contentTurn_ = 0; ///< goes up when another palette is shown
     std::uint64_t pictureTurn_ = 0;
+    std::uint64_t pinTurn_ = 0; ///< goes up when pins change their places in the list
+    std::optional<PinMove> nextMove_;
+    bool readingPin_ = false;
+    bool saving_ = false;
+    std::deque<std::function<void()>> afterSaves_;
+    /// Files to which the user lets this window save translucent swatches opaque, and stylesheets
+    /// that it wrote itself.
+    std::set<std::filesystem::path> opaqueIn_, ownStylesheets_;
 };
 
 /// The first of "Untitled Palette", "Untitled Palette 2", … that is not taken.

@@ -167,14 +167,7 @@ void AppState::replacePalette(std::span<const WashColor> with, Names names) {
 void AppState::clearPalette() {
     if (swatches().empty() && !attachment_.value()) return;
     confirmDiscardingChanges("clearing the palette", [this](bool goesOn) {
-        if (!goesOn) return;
-        checkpointPalette();
-        const UpdateGroup group;
-        setSwatches({});
-        attachment_ = std::nullopt;
-        loadedVersion_ = {};
-        dirty_ = false;
-        announcePalette();
+        if (goesOn) leaveUntitled();
     });
 }
 

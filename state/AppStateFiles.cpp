@@ -1,0 +1,342 @@
+#include "palettes/FileNames.h"
+#include "palettes/PaletteFile.h"
+#include "platform/Dialogues.h"
+#include "platform/File.h"
+#include "platform/FileBrowser.h"
+#include "platform/Unicode.h"
+#include "state/AppState.h"
+#include "state/AppUndo.h"
+#include "state/Errands.h"
+#include "state/NoticeTexts.h"
+#include "state/Preferences.h"
+#include "state/SaveTexts.h"
+#include "state/SwatchMatch.h"
+#include "state/UpdateGroup.h"
+
+#include <utility>
+
+namespace tintra {
+
+/// What a palette file gave. Without swatches it is a palette of none, or cannot be read.
+struct AppState::Reading {
+    std::vector<PaletteFile::Swatch> swatches;
+    bool isEmpty = false;
+};
+
+namespace {
+
+bool isEmptyFile(const std::filesystem::path& file) {
+    // What holds no colour in this much is no palette that somebody emptied.
+    constexpr std::uint64_t kLargest = std::uint64_t{1} << 20U;
+    const auto kind = PaletteFile::kindOf(file);
+    if (!kind) return false;
+    const auto content = readFile(file, kLargest);
+    const auto* const bytes = std::get_if<Bytes>(&content);
+    return bytes != nullptr && PaletteFile::isEmpty(*bytes, *kind);
+}
+
+} // namespace
+
+// New palettes
+
+void AppState::newPalette() {
+    confirmDiscardingChanges("starting a new palette", whileAlive(alive_, [this](bool goesOn) {
+                                 if (goesOn) leaveUntitled();
+                             }));
+}
+
+void AppState::startNewPalette() {
+    confirmDiscardingChanges("starting a new palette", whileAlive(alive_, [this](bool goesOn) {
+                                 if (!goesOn) return;
+                                 const UpdateGroup group;
+                                 leaveUntitled();
+                                 enterPaletteBuilder();
+                             }));
+}
+
+void AppState::leaveUntitled() {
+    ++loadTurn_;
+    ++contentTurn_;
+    if (swatches().empty() && !attachment_.value()) return;
+    checkpointPalette();
+    const UpdateGroup group;
+    setSwatches({});
+    attachment_ = std::nullopt;
+    loadedVersion_ = {};
+    dirty_ = false;
+    announcePalette();
+}
+
+// Loading
+
+void AppState::open() {
+    context_.services.dialogues.askWhatToOpen(
+        {OpenQuestion::Of::palette, {}, place()},
+        whileAlive(alive_, [this](const std::optional<std::filesystem::path>& file) {
+            if (file) open(*file);
+        }));
+}
+
+AppState::Reading AppState::readPalette(const std::filesystem::path& file) {
+    if (auto swatches = PaletteFile::readNamed(file)) return {*std::move(swatches)};
+    return {{}, isEmptyFile(file)};
+}
+
+void AppState::open(const std::filesystem::path& file) {
+    load({file.stem().string(), file, {}, {}}, file.filename().string(),
+         [file] { return readPalette(file); });
+}
+
+void AppState::loadPalette(const PaletteStore::Entry& entry) {
+    LoadedPalette palette{entry.name, {}, {}, {}};
+    if (entry.isEditable && !entry.url.empty()) palette.url = entry.url;
+    if (entry.url.empty()) {
+        load(std::move(palette), entry.name, [found = entry.palette] {
+            return Reading{found ? found->swatches : std::vector<PaletteFile::Swatch>{}};
+        });
+        return;
+    }
+    load(std::move(palette), entry.name, [&cache = context_.store.cache(), file = entry.url] {
+        const auto found = cache.warm(file);
+        if (found && !found->swatches.empty()) return Reading{found->swatches};
+        return Reading{{}, isEmptyFile(file)};
+    });
+}
+
+void AppState::load(LoadedPalette palette, std::string shown, std::function<Reading()> read) {
+    const auto turn = ++loadTurn_;
+    // Asked before reading: a file that changes meanwhile counts as changed.
+    if (palette.url) palette.version = context_.windows.version(*palette.url);
+    inBackground(context_.services, alive_, std::move(read),
+                 [this, turn, palette = std::move(palette),
+                  shown = std::move(shown)](Reading&& found) mutable {
+                     if (turn != loadTurn_) return;
+                     if (found.swatches.empty()) {
+                         toast(found.isEmpty ? SaveTexts::emptyText(shown)
+                                             : SaveTexts::unreadableText(shown),
+                               kBriefly);
+                         return;
+                     }
+                     palette.swatches = std::move(found.swatches);
+                     loadPalette(std::move(palette));
+                 });
+}
+
+void AppState::loadPalette(LoadedPalette palette) {
+    if (palette.swatches.empty()) {
+        toast(SaveTexts::emptyText(palette.name), kBriefly);
+        return;
+    }
+    if (mode.value() != HarmonyMode::paletteBuilder) {
+        toast(SaveTexts::openedElsewhereText(palette.name), kBriefly);
+        context_.windows.openInNewWindow(std::move(palette));
+        return;
+    }
+    confirmDiscardingChanges(
+        "opening another palette",
+        whileAlive(alive_, [this, palette = std::move(palette)](bool goesOn) mutable {
+            if (goesOn) show(std::move(palette));
+        }));
+}
+
+void AppState::show(LoadedPalette palette) {
+    ++loadTurn_;
+    ++contentTurn_;
+    if (!swatches().empty() || attachment_.value()) checkpointPalette();
+    std::vector<PaletteSwatch> fresh;
+    fresh.reserve(palette.swatches.size());
+    for (auto& swatch : palette.swatches)
+        fresh.push_back(freshSwatch(swatch.color, std::move(swatch.name)));
+    const UpdateGroup group;
+    setSwatches(std::move(fresh));
+    selectedSwatch = std::nullopt;
+    attachment_ = PaletteAttachment{palette.name, palette.url.value_or(std::filesystem::path())};
+    loadedVersion_ = palette.version;
+    dirty_ = false;
+    announcePalette();
+}
+
+// What other windows save
+
+void AppState::takeSaved(const AppState& from) {
+    const auto file = currentPaletteURL();
+    if (restoring_ || dirty_.value() || !file || from.currentPaletteURL() != file) return;
+    const auto turn = contentTurn_;
+    inBackground(
+        context_.services, alive_, [file = *file] { return readPalette(file); },
+        [this, turn, version = context_.windows.version(*file)](Reading&& found) {
+            // Edits made meanwhile stay; saving them asks about the other window's save.
+            if (turn != contentTurn_ || dirty_.value() || found.swatches.empty()) return;
+            takeRead(std::move(found.swatches), version);
+        });
+}
+
+void AppState::takeRead(std::vector<PaletteFile::Swatch> now, const FileVersion& version) {
+    const auto matches = matchedSwatches(swatches(), now);
+    std::vector<PaletteSwatch> taken;
+    taken.reserve(now.size());
+    for (std::size_t i = 0; i < now.size(); ++i) {
+        taken.push_back(freshSwatch(now[i].color, std::move(now[i].name)));
+        if (matches[i]) taken.back().id = *matches[i];
+    }
+    // What this window undid would bring back a palette that was never followed by this one, and a
+    // step of undo for the reload would come before the other window's own.
+    context_.undo.discardEntries(id_);
+    const UpdateGroup group;
+    setSwatches(std::move(taken));
+    loadedVersion_ = version;
+    announcePalette();
+    toast(std::string(SaveTexts::kUpdated), kBriefly);
+}
+
+// The window's file
+
+PaletteStore::Entry AppState::entryOfFile() const {
+    const auto& attached = attachment_.value();
+    if (!attached) return {};
+    const auto key = attached->url.empty() ? attached->name : attached->url.string();
+    if (const auto* const entry = context_.store.entry(key)) return *entry;
+    PaletteStore::Entry entry;
+    entry.name = attached->name;
+    entry.url = attached->url;
+    if (attached->url.parent_path() == context_.store.colorsDirectory())
+        entry.group = PaletteStore::Entry::Group::colourPicker;
+    return entry;
+}
+
+void AppState::askFileName(NameQuestion question, void (AppState::*then)(std::string_view)) {
+    question.over = place();
+    question.refusal = [entry = entryOfFile(), &store = context_.store](
+                           std::string_view name) -> std::optional<std::string> {
+        if (auto refused = whyUnfit(name)) return refused;
+        std::error_code ignored;
+        const auto there = store.placeOfCopy(entry, trimmed(name));
+        if (std::filesystem::exists(there, ignored)) return SaveTexts::alreadyThereText(name);
+        return std::nullopt;
+    };
+    context_.services.dialogues.askName(
+        std::move(question),
+        whileAlive(alive_, [this, then](const std::optional<std::string>& name) {
+            if (name) (this->*then)(trimmed(*name));
+        }));
+}
+
+void AppState::duplicatePalette() {
+    const auto entry = entryOfFile();
+    const bool isList =
+        entry.url.empty() || entry.group == PaletteStore::Entry::Group::colourPicker;
+    askFileName({.title = SaveTexts::duplicateTitle(title()),
+                 .note = std::string(isList ? SaveTexts::kCopyInPicker : SaveTexts::kCopyBeside),
+                 .proposal = title() + " copy",
+                 .button = "Duplicate",
+                 .refusal = {},
+                 .over = {}},
+                &AppState::duplicatePalette);
+}
+
+void AppState::duplicatePalette(std::string_view as) {
+    const auto entry = entryOfFile();
+    if (whyUnfit(as) || (entry.name.empty() && entry.url.empty())) {
+        toast(SaveTexts::couldNotDuplicateText(title()), kForCounts);
+        return;
+    }
+    std::error_code ignored;
+    if (std::filesystem::exists(context_.store.placeOfCopy(entry, as), ignored))
+        toast(SaveTexts::alreadyThereText(as), kForCounts);
+    else if (context_.store.duplicate(entry, as))
+        toast(SaveTexts::couldNotDuplicateText(title()), kForCounts);
+    else
+        toast(SaveTexts::duplicatedText(title(), as), kBriefly);
+}
+
+void AppState::renamePalette() {
+    if (!currentPaletteURL()) return;
+    askFileName({.title = SaveTexts::renameTitle(title()),
+                 .note = {},
+                 .proposal = title(),
+                 .button = std::string(SaveTexts::kRename),
+                 .refusal = {},
+                 .over = {}},
+                &AppState::renamePalette);
+}
+
+void AppState::renamePalette(std::string_view to) {
+    const auto from = currentPaletteURL();
+    if (!from || to == title()) return;
+    const auto entry = entryOfFile();
+    const auto there = context_.store.placeOfCopy(entry, to);
+    std::error_code ignored;
+    if (auto refused = whyUnfit(to)) {
+        toast(*std::move(refused), kForCounts);
+    } else if (std::filesystem::exists(there, ignored)) {
+        toast(SaveTexts::alreadyThereText(to), kForCounts);
+    } else if (const auto error = context_.store.rename(entry, to)) {
+        toast(SaveTexts::couldNotText(from->filename().string(), "renamed", error->why),
+              kForCounts);
+    } else {
+        moveTo({std::string(to), there});
+    }
+}
+
+/// The file is another one by name only, so what is known of its state stays true.
+void AppState::moveTo(PaletteAttachment file) {
+    const auto from = displayKey();
+    loadedVersion_.saves = context_.windows.version(file.url).saves;
+    attach(std::move(file));
+    auto views = context_.preferences.paletteViews.value();
+    if (auto view = views.extract(from)) {
+        view.key() = displayKey();
+        views.insert(std::move(view));
+        context_.preferences.paletteViews = views;
+    }
+}
+
+void AppState::attach(PaletteAttachment to) {
+    if (attachment_.value() == to) return;
+    attachment_ = std::move(to);
+    context_.windows.paletteChanged(*this);
+}
+
+void AppState::trashPalette() {
+    const auto attached = attachment_.value();
+    if (!attached || attached->url.empty()) return;
+    const auto file = attached->url.filename().string();
+    const auto result = context_.store.trash(entryOfFile());
+    if (const auto* const error = std::get_if<FileError>(&result)) {
+        toast(SaveTexts::couldNotText(file, "moved to the Trash", error->why), kForCounts);
+        return;
+    }
+    {
+        const UpdateGroup group;
+        attachment_ = std::nullopt;
+        loadedVersion_ = {};
+        context_.windows.paletteChanged(*this);
+    }
+    toast(
+        SaveTexts::trashedText(file), kForCounts, place(),
+        ToastAction{"Undo", [this, alive = std::weak_ptr(alive_), context = context_, at = place(),
+                             trashed = std::get<TrashedFile>(result), attached = *attached] {
+                        // The file comes back also when its window is gone.
+                        const auto error = context.store.putBack(trashed);
+                        if (error)
+                            context.services.toasts.show(
+                                SaveTexts::couldNotText(trashed.original.filename().string(),
+                                                        "put back", error->why),
+                                kForCounts, {}, at);
+                        else if (!alive.expired())
+                            takeBack(attached);
+                    }});
+}
+
+void AppState::takeBack(const PaletteAttachment& file) {
+    if (attachment_.value()) return;
+    const UpdateGroup group;
+    loadedVersion_ = context_.windows.version(file.url);
+    attach(file);
+}
+
+void AppState::revealPalette() {
+    if (const auto file = currentPaletteURL()) context_.services.fileBrowser.reveal(*file);
+}
+
+} // namespace tintra
