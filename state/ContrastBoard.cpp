@@ -40,8 +40,9 @@ WashColor measurable(const WashColor& color) {
     return {finite(color.r), finite(color.g), finite(color.b), clampedUnit(color.a)};
 }
 
-std::optional<std::string> entryName(const std::optional<std::string>& name) {
-    return name ? swatchNameFrom(*name) : std::nullopt;
+std::optional<std::string> entryName(std::optional<std::string> name) {
+    if (name) name = swatchNameFrom(*name);
+    return name;
 }
 
 /// Roles and arrivals for the entries that are there, and no other.
@@ -113,7 +114,7 @@ std::optional<Uuid> ContrastBoard::hold(std::optional<std::string> name, const W
     if (isFull() || held(kept)) return std::nullopt;
     const Uuid id = services_.chance.uuid();
     auto to = content_.value();
-    to.entries.push_back({id, kept, entryName(name)});
+    to.entries.push_back({id, kept, entryName(std::move(name))});
     setContent(std::move(to));
     return id;
 }
@@ -194,7 +195,7 @@ void ContrastBoard::rename(const Uuid& id, std::optional<std::string> name) {
     auto to = content_.value();
     const auto found = std::ranges::find(to.entries, id, &Entry::id);
     if (found == to.entries.end()) return;
-    found->givenName = entryName(name);
+    found->givenName = entryName(std::move(name));
     setContent(std::move(to));
 }
 

@@ -131,7 +131,7 @@ public:
     /// Of the specimen.
     Contrast::LargeText isLargeText() const;
     Contrast::Grade mark(double ratio) const;
-    std::string title(Target target) const;
+    std::string title(Target of) const;
     std::string verdict(double ratio) const;
     std::string typeDescription() const;
 
@@ -150,7 +150,7 @@ private:
     /// What was cleared, and what came since as far as there is room.
     void bringBack(Content cleared);
     StoredContrast stored() const;
-    void apply(const StoredContrast& stored);
+    void apply(const StoredContrast& record);
 
     Services& services_;
     const OpenPalettes& palettes_;

@@ -19,6 +19,7 @@ double luminanceOf(const Entry& entry) {
 
 std::vector<Uuid> orderOf(const std::vector<Entry>& entries) {
     std::vector<Uuid> order;
+    order.reserve(entries.size());
     for (const auto& entry : entries)
         order.push_back(entry.id);
     return order;
