@@ -1,14 +1,10 @@
-#include "cli/Run.h"
 #include "platform/PngEncoder.h"
-#include "tests/TemporaryFolder.h"
+#include "tests/cli/RunInProcess.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include <cmath>
 #include <filesystem>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -17,42 +13,6 @@ namespace {
 
 using testing::HasSubstr;
 using testing::StartsWith;
-using Json = nlohmann::ordered_json;
-
-struct Result {
-    int status;
-    std::string out, err;
-
-    Json json() const { return Json::parse(out); }
-};
-
-Result tintra(const std::vector<std::string>& arguments, const std::string& input = "") {
-    std::istringstream in(input);
-    Result result{};
-    Console console{in, [&](std::string_view text) { result.out += text; },
-                    [&](std::string_view text) { result.err += text; }};
-    result.status = run(arguments, console);
-    return result;
-}
-
-std::vector<std::string> keys(const Json& object) {
-    std::vector<std::string> names;
-    for (const auto& [key, value] : object.items())
-        names.push_back(key);
-    return names;
-}
-
-/// A folder of its own for a test, removed at its end.
-class CommandsWithFiles : public testing::Test {
-protected:
-    std::string file(const std::string& name, const std::string& bytes) const {
-        return folder.write(name, bytes).string();
-    }
-    std::string content(const std::string& name) const { return folder.content(name); }
-    std::string path(const std::string& name) const { return (folder / name).string(); }
-
-    const TemporaryFolder folder;
-};
 
 TEST(Commands, WrongUsageIsStatusTwoWithOneSentence) {
     const std::vector<std::vector<std::string>> rows{
@@ -77,6 +37,9 @@ TEST(Commands, WrongUsageIsStatusTwoWithOneSentence) {
         {"vision", "protanopia", "red", "--picture", "a.png", "-o", "b.png"},
         {"vision", "protanopia", "--picture", "a.png"},
         {"read", "--as", "word", "a.ase"},
+        {"library"},
+        {"library", "a", "--match", "near"},
+        {"library", "a", "--sort", "colour"},
         {"show", "red", "--rgb-profile", "CIE"},
         {"show", "red", "--cmyk-profile", "no such press"},
         {"show", "red", "--illuminant", "d75"},
@@ -93,7 +56,7 @@ TEST(Commands, HelpStandsOnEveryLevelWithExamples) {
     EXPECT_THAT(tintra({"--help"}).out, HasSubstr("convert"));
     EXPECT_THAT(tintra({"--version"}).out, StartsWith("tintra "));
     for (const auto* command : {"show", "name", "code", "contrast", "harmony", "mix", "vision",
-                                "read", "convert", "extract", "formats", "profiles"}) {
+                                "read", "convert", "extract", "library", "formats", "profiles"}) {
         const auto help = tintra({command, "--help"});
         EXPECT_EQ(help.status, 0);
         EXPECT_THAT(help.out, HasSubstr(std::string("tintra ") + command));

@@ -10,7 +10,7 @@ fail() {
     failures=$((failures + 1))
 }
 
-for command in show name code contrast harmony read convert extract formats profiles; do
+for command in show name code contrast harmony read convert extract library formats profiles; do
     options=$("$tintra" "$command" --help | grep -oE '^ +(-[a-z], ?)?--[a-z-]+' | grep -oE -- '--[a-z-]+')
     [ -n "$options" ] || fail "no options in the help of $command"
     for option in $options; do

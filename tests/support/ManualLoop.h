@@ -83,11 +83,14 @@ public:
     }
     /// Does everything that waits.
     void finish() {
-        while (!waiting_.empty()) {
-            auto work = std::move(waiting_.front());
-            waiting_.pop_front();
-            work();
-        }
+        while (!waiting_.empty())
+            doNext();
+    }
+    /// Does what has waited longest.
+    void doNext() {
+        auto work = std::move(waiting_.front());
+        waiting_.pop_front();
+        work();
     }
     bool holds = false; ///< work waits for `finish`
 
