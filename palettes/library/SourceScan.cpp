@@ -14,7 +14,7 @@ namespace tintra {
 namespace {
 
 /// Files that one piece of work reads; their results are one task of the main loop.
-constexpr std::size_t kFilesAtOnce = 32;
+constexpr std::size_t kFilesAtOnce = 64;
 /// Pieces of work at the same time.
 constexpr int kAbreast = 2;
 

@@ -39,27 +39,13 @@ std::string text(const WashColor& color) {
 }
 
 TEST(PaletteSearch, ATextIsAColourWhenTheWholeOfItIsOne) {
-    const std::vector<std::pair<const char*, const char*>> rows{
-        {"#facade", "#FACADE"},
-        {" #F80 ", "#FF8800"},
-        {"#f80a", "#FF8800"},
-        {"0x1E4D6B", "#1E4D6B"},
-        {"1e4d6b", "#1E4D6B"},
-        {"123456", "#123456"},
-        {"Red", "#FF0000"},
-        {"rgb(30 77 107)", "#1E4D6B"},
-        {"rgb(30, 77, 107);", "#1E4D6B"},
-        {"lab(100 0 0)", "#FFFFFF"},
-        {"30, 77, 107", "#1E4D6B"},
-        {"hsl 0 100% 50%", "#FF0000"},
-        {"new Color(30, 77, 107)", "#1E4D6B"},
-        {"[UIColor colorWithRed:1 green:0 blue:0 alpha:1]", "#FF0000"},
-    };
-    for (const auto& [text, hex] : rows) {
-        const auto color = searchedColour(text);
-        ASSERT_TRUE(color) << text;
-        EXPECT_EQ(color->hex(), hex) << text;
-    }
+    for (const auto* text : {"#1e4d6b", " #1E4D6B ", "#1e4d6bff", "0x1E4D6B", "1e4d6b",
+                             "rgb(30 77 107)", "rgb(30, 77, 107);", "30, 77, 107", "rgb 30 77 107",
+                             "new Color(30, 77, 107)", "color(srgb 0.11764 0.30196 0.4196)",
+                             "[UIColor colorWithRed:30/255 green:77/255 blue:107/255 alpha:1]"})
+        EXPECT_EQ(searchedColour(text).value_or(WashColor{}).hex(), "#1E4D6B") << text;
+    for (const auto* text : {"#facade", "#f80", "#f80a", "123456", "Red", "lab(100 0 0)"})
+        EXPECT_TRUE(searchedColour(text)) << text;
     for (const auto* words :
          {"facade", "decade", "f80", "", " ", "reddish", "red wine", "brand #ff8800", "#ff8800 old",
           "Tea (1, 2, 3)", "1 2", "1 2 3 4", "300 1 2", "2024", "#ggg", "#", "rgb", "\"red\""})

@@ -50,10 +50,6 @@ protected:
         store.setLocations(locations, system);
         desktop.loop.turn();
     }
-    void rescan() {
-        store.rescan();
-        desktop.loop.turn();
-    }
     /// The folder's watcher tells, and the change settles.
     void touch(const std::string& name) {
         desktop.folderWatch.change(folder / name);
@@ -301,24 +297,25 @@ TEST_F(PaletteStoreTest, CopiesAndNamesStayInTheirFolder) {
 
 TEST(PaletteOrder, DateWinsOverNameOverCountAndTiesGoByName) {
     std::vector<PaletteEntry> entries(3);
-    const std::vector<std::tuple<const char*, std::size_t, int>> rows{
-        {"Tone 10", 5, 1}, {"tone 9", 5, 3}, {"Zoo", 1, 2}};
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        entries[i].name = std::get<0>(rows[i]);
-        entries[i].count = std::get<1>(rows[i]);
-        entries[i].modified += std::chrono::seconds(std::get<2>(rows[i]));
-    }
-    const auto order = [&](PaletteOrder by) {
+    const auto set = [&](std::size_t at, const char* name, std::size_t count, int date) {
+        entries[at].name = name;
+        entries[at].count = count;
+        entries[at].modified += std::chrono::seconds(date);
+    };
+    set(0, "Tone 10", 5, 1);
+    set(1, "tone 9", 5, 3);
+    set(2, "Zoo", 1, 2);
+    const auto order = [&](bool byName, bool byDate, bool ascending) {
         std::string all;
-        for (const auto& entry : sorted(entries, by))
+        for (const auto& entry : sorted(entries, {byName, byDate, ascending}))
             all += entry.name + ",";
         return all;
     };
-    EXPECT_EQ(order({.byName = true, .byDate = true}), "Tone 10,Zoo,tone 9,");
-    EXPECT_EQ(order({.byName = true}), "tone 9,Tone 10,Zoo,");
-    EXPECT_EQ(order({.byName = true, .byDate = false, .ascending = false}), "Zoo,Tone 10,tone 9,");
-    EXPECT_EQ(order({.byName = false}), "Zoo,tone 9,Tone 10,");
-    EXPECT_EQ(order({.byName = false, .byDate = false, .ascending = false}), "tone 9,Tone 10,Zoo,");
+    EXPECT_EQ(order(true, true, true), "Tone 10,Zoo,tone 9,");
+    EXPECT_EQ(order(true, false, true), "tone 9,Tone 10,Zoo,");
+    EXPECT_EQ(order(true, false, false), "Zoo,Tone 10,tone 9,");
+    EXPECT_EQ(order(false, false, true), "Zoo,tone 9,Tone 10,");
+    EXPECT_EQ(order(false, false, false), "tone 9,Tone 10,Zoo,");
 }
 
 } // namespace
