@@ -44,9 +44,9 @@ TEST(AppStateDrops, ASwatchMovesWithinItsPaletteAndToAnother) {
     auto& from = desk.openWith(4);
     auto& to = desk.open();
     const auto was = from.swatches();
-    from.receive(dragOf(from, 0), 4, false);
-    EXPECT_THAT(from.swatches(), ElementsAre(was[1], was[2], was[3], was[0]));
-    from.receive(dragOf(from, 3), 1, true);
+    from.receive(dragOf(from, 0), 3, false);
+    EXPECT_THAT(from.swatches(), ElementsAre(was[1], was[2], was[0], was[3]));
+    from.receive(dragOf(from, 2), 1, true);
     EXPECT_THAT(from.swatches(), ElementsAre(was[1], was[0], was[2], was[3]));
 
     from.renameSwatch(1, "Sea");

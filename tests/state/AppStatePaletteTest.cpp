@@ -139,6 +139,7 @@ TEST(AppStatePalette, SelectionAndEditorStayWithTheirSwatch) {
     state.moveSwatch(3, 0);
     EXPECT_EQ(state.selectedSwatch.value(), 1U);
     state.editorBuffer = AppState::EditorBuffer{edited.id, kNew};
+    state.renameSwatch(1, "An edit that has begun stays");
     state.editSwatch(3);
     EXPECT_EQ(state.colors()[1], kNew) << "an edit is applied when another one begins";
     state.editSwatch(1);
@@ -152,7 +153,8 @@ TEST(AppStatePalette, SelectionAndEditorStayWithTheirSwatch) {
 TEST(AppStatePalette, WhatUndoBringsBackIsCleanOnlyUntilASave) {
     PaletteDesk desk;
     auto& state = desk.open();
-    PaletteContent other{{}, PaletteAttachment{"Sea", "/p/Sea.ase"}, false, 0, {3, {}}};
+    PaletteContent other{
+        {{{}, kNew, {}}}, PaletteAttachment{"Sea", "/p/Sea.ase"}, false, 0, {3, {}}};
     state.exchangePalette(other);
     EXPECT_FALSE(state.paletteIsDirty().value());
     EXPECT_EQ(state.title(), "Sea");
