@@ -19,11 +19,13 @@ public:
         std::optional<FileError> error; ///< none: nothing fails any more
     };
 
-    /// Whether it is the first since the last were told.
+    /// Whether it is the first since the last were told. Of failures of a key the last is told.
     bool add(Item item) {
         const std::lock_guard hold(lock_);
+        const bool first = waiting_.empty();
+        std::erase_if(waiting_, [&](const Item& old) { return old.error && old.key == item.key; });
         waiting_.push_back(std::move(item));
-        return waiting_.size() == 1;
+        return first;
     }
 
     void whenFailing(Failing told) { failing_ = std::move(told); }
@@ -80,17 +82,17 @@ std::optional<std::string> FileDefaults::data(std::string_view key) {
 void FileDefaults::set(std::string_view key, std::string record) {
     auto& known = known_[std::string(key)];
     known = std::make_shared<const std::string>(std::move(record));
-    order(key, {Do::write, known});
+    order(key, {Do::write, known, clock_.date()});
 }
 
 void FileDefaults::remove(std::string_view key) {
     known_[std::string(key)] = nullptr;
-    order(key, {Do::remove, nullptr});
+    order(key, {Do::remove, nullptr, clock_.date()});
 }
 
 void FileDefaults::setAside(std::string_view key) {
     known_[std::string(key)] = nullptr;
-    order(key, {Do::setAside, nullptr});
+    order(key, {Do::setAside, nullptr, clock_.date()});
 }
 
 void FileDefaults::flush() {
@@ -182,13 +184,12 @@ void FileDefaults::report(const std::string& key, std::optional<FileError> faile
 }
 
 /// Takes away the steps that succeeded.
-std::optional<FileError> FileDefaults::perform(const RecordFile& file, Steps& steps) const {
+std::optional<FileError> FileDefaults::perform(const RecordFile& file, Steps& steps) {
     for (; !steps.empty(); steps.pop_front()) {
         const auto& step = steps.front();
-        const auto now = clock_.date();
-        auto failed = step.what == Do::write    ? file.write(*step.record, now)
-                      : step.what == Do::remove ? file.remove(now)
-                                                : file.setAside(now);
+        auto failed = step.what == Do::write    ? file.write(*step.record, step.when)
+                      : step.what == Do::remove ? file.remove(step.when)
+                                                : file.setAside(step.when);
         if (failed) return failed;
     }
     return std::nullopt;

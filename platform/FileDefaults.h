@@ -3,6 +3,7 @@
 #include "platform/DefaultsStore.h"
 #include "platform/RecordFile.h"
 
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <filesystem>
@@ -12,7 +13,6 @@
 #include <set>
 #include <string>
 #include <thread>
-#include <vector>
 
 namespace tintra {
 
@@ -51,6 +51,7 @@ private:
     struct Step {
         Do what = Do::write;
         Record record; ///< what to write
+        std::chrono::system_clock::time_point when;
     };
     using Steps = std::deque<Step>;
     class News;
@@ -62,7 +63,7 @@ private:
     void write();
     void writeNext(std::unique_lock<std::mutex>& hold);
     void report(const std::string& key, std::optional<FileError> failed);
-    std::optional<FileError> perform(const RecordFile& file, Steps& steps) const;
+    static std::optional<FileError> perform(const RecordFile& file, Steps& steps);
 
     const Folders folders_;
     MainLoop& mainLoop_;
