@@ -145,6 +145,15 @@ std::optional<FileError> writeFile(const fs::path& path, ByteView content, Exist
     return std::nullopt;
 }
 
+std::optional<FileError> makeFolder(const fs::path& folder) {
+    constexpr mode_t kUserOnly = 0700; // as the XDG Base Directory specification asks
+    if (::mkdir(folder.c_str(), kUserOnly) == 0 || errno == EEXIST) return std::nullopt;
+    if (errno != ENOENT || !folder.has_relative_path()) return lastError();
+    if (auto failed = makeFolder(folder.parent_path())) return failed;
+    if (::mkdir(folder.c_str(), kUserOnly) == 0 || errno == EEXIST) return std::nullopt;
+    return lastError();
+}
+
 void removeLeftovers(const fs::path& folder) {
     const auto longAgo = fs::file_time_type::clock::now() - std::chrono::hours(1);
     std::error_code failed;

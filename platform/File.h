@@ -30,6 +30,10 @@ enum class Existing { refuse, replace };
 std::optional<FileError> writeFile(const std::filesystem::path& path, ByteView content,
                                    Existing existing);
 
+/// Makes the folder and those above it that are missing, for the user alone. Where something stands
+/// in its place already, that is left as it is and is no failure.
+std::optional<FileError> makeFolder(const std::filesystem::path& folder);
+
 /// Removes the temporary files of `writeFile` that a killed program left in the folder more than an
 /// hour ago.
 void removeLeftovers(const std::filesystem::path& folder);

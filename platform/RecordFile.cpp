@@ -53,15 +53,6 @@ FileError lastError() {
     return {std::generic_category().message(errno)};
 }
 
-std::optional<FileError> makeFolder(const fs::path& folder) {
-    constexpr mode_t kUserOnly = 0700; // as the XDG Base Directory specification asks
-    if (::mkdir(folder.c_str(), kUserOnly) == 0 || errno == EEXIST) return std::nullopt;
-    if (errno != ENOENT || !folder.has_relative_path()) return lastError();
-    if (auto failed = makeFolder(folder.parent_path())) return failed;
-    if (::mkdir(folder.c_str(), kUserOnly) == 0 || errno == EEXIST) return std::nullopt;
-    return lastError();
-}
-
 } // namespace
 
 RecordFile::RecordFile(const fs::path& folder, std::string_view key)
