@@ -13,9 +13,10 @@ namespace tintra {
 /// tests run side by side.
 class TemporaryFolder {
 public:
-    TemporaryFolder() {
-        auto name = (std::filesystem::temp_directory_path() / "tintra-test-XXXXXX").string();
-        path_ = ::mkdtemp(name.data());
+    explicit TemporaryFolder(
+        const std::filesystem::path& in = std::filesystem::temp_directory_path()) {
+        auto name = (in / "tintra-test-XXXXXX").string();
+        if (::mkdtemp(name.data()) != nullptr) path_ = name;
     }
     ~TemporaryFolder() {
         std::error_code ignored;
