@@ -60,8 +60,7 @@ QtFolderWatch::QtFolderWatch()
 
 void QtFolderWatch::watch(std::vector<Path> folders) {
     std::ranges::sort(folders);
-    const auto repeated = std::ranges::unique(folders);
-    folders.erase(repeated.begin(), repeated.end());
+    folders.erase(std::unique(folders.begin(), folders.end()), folders.end());
 
     std::vector<Folder> before = std::exchange(folders_, {});
     std::vector<std::size_t> fresh;

@@ -1,5 +1,7 @@
 #include "platform/desktop/services/QtMainLoop.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QTimer>
 #include <algorithm>
 #include <cmath>
@@ -9,6 +11,11 @@
 namespace tintra {
 
 namespace {
+
+struct TaskEvent final : QEvent {
+    explicit TaskEvent(std::function<void()> given) : QEvent(User), task(std::move(given)) {}
+    std::function<void()> task;
+};
 
 struct TimerTask final : DelayedTask {
     QTimer timer;
@@ -21,8 +28,14 @@ int milliseconds(double seconds) {
 
 } // namespace
 
+bool QtMainLoop::Receiver::event(QEvent* event) {
+    if (event->type() != QEvent::User) return QObject::event(event);
+    static_cast<TaskEvent*>(event)->task();
+    return true;
+}
+
 void QtMainLoop::post(std::function<void()> task) {
-    QMetaObject::invokeMethod(&receiver_, std::move(task), Qt::QueuedConnection);
+    QCoreApplication::postEvent(&receiver_, new TaskEvent(std::move(task)));
 }
 
 std::unique_ptr<DelayedTask> QtMainLoop::after(double seconds, std::function<void()> task) {

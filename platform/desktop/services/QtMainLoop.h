@@ -15,7 +15,13 @@ public:
     std::unique_ptr<DelayedTask> after(double seconds, std::function<void()> task) override;
 
 private:
-    QObject receiver_; ///< lives on the main thread; what is meant for it ends with it
+    /// Lives on the main thread; tasks that are on their way to it end with it.
+    class Receiver final : public QObject {
+    public:
+        bool event(QEvent* event) override;
+    };
+
+    Receiver receiver_;
 };
 
 } // namespace tintra
