@@ -176,7 +176,8 @@ void AppState::applyStored(const Stored& stored, bool includeContent) {
 }
 
 void AppState::persist() {
-    if (restoring_) return;
+    // What waits is not put off: a steady stream of changes would never be written.
+    if (restoring_ || persistWorkItem_) return;
     persistWorkItem_ = context_.services.mainLoop.after(kSavingDelay, [this] { persistNow(); });
 }
 

@@ -10,10 +10,10 @@
 
 namespace tintra {
 
-/// How long after the last change a record is written; seconds.
+/// How long a change waits at most before its record is written; seconds.
 inline constexpr double kSavingDelay = 0.3;
 
-/// Captures the record of a shared model soon after its last change, so that a run that ends
+/// Captures the record of a shared model soon after a change, so that a run that ends
 /// suddenly loses no more than that. Main loop.
 class LateCapture {
 public:
@@ -52,7 +52,8 @@ private:
         watches_.push_back(QBindable<T>(&property).addNotifier(std::move(changed)));
     }
     void schedule() {
-        if (ended_) return;
+        // What waits is not put off: a steady stream of changes would never be written.
+        if (ended_ || waiting_) return;
         waiting_ = mainLoop_.after(kSavingDelay, [this] { capture(); });
     }
 
