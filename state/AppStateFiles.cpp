@@ -158,9 +158,9 @@ void AppState::show(LoadedPalette palette) {
 
 // What other windows save
 
-void AppState::takeSaved(const AppState& from) {
+void AppState::takeSaved(const AppState&) {
     const auto file = currentPaletteURL();
-    if (restoring_ || dirty_.value() || !file || from.currentPaletteURL() != file) return;
+    if (restoring_ || dirty_.value() || !file) return;
     const auto turn = contentTurn_;
     inBackground(
         context_.services, alive_, [file = *file] { return readPalette(file); },

@@ -376,8 +376,9 @@ void AppState::keep(PaletteAttachment in, std::uint64_t version) {
     const UpdateGroup group;
     ++saves_;
     if (paletteVersion_.value() == version) dirty_ = false;
-    recordSaved(in.url);
+    const auto file = in.url;
     attach(std::move(in));
+    recordSaved(file);
 }
 
 void AppState::recordSaved(const std::filesystem::path& file) {
