@@ -59,9 +59,11 @@ endfunction()
 set(TINTRA_NO_LEAK_CHECK "ASAN_OPTIONS=detect_leaks=0")
 
 # tintra_test(NAME LIBRARY...): one test program a folder; each of its cases is a CTest test, run
-# with TINTRA_TEST_ENVIRONMENT where the folder sets it.
+# with TINTRA_TEST_ENVIRONMENT where the folder sets it. Programs that tests run stand in a
+# subfolder of their own.
 function(tintra_test name)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    list(FILTER sources EXCLUDE REGEX "/program/")
     add_executable(tintra_${name}_tests ${sources})
     target_link_libraries(tintra_${name}_tests PRIVATE tintra_options ${ARGN} GTest::gtest
                                                        GTest::gmock GTest::gtest_main)
