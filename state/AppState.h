@@ -4,15 +4,17 @@
 #include "colour/Contrast.h"
 #include "colour/Harmony.h"
 #include "colour/Vision.h"
-#include "palettes/ImagePalette.h"
 #include "palettes/PaletteExport.h"
 #include "palettes/PaletteStore.h"
-#include "platform/Dialogues.h"
 #include "platform/MainLoop.h"
 #include "platform/Toasts.h"
+#include "state/AppContext.h"
+#include "state/BandsKey.h"
 #include "state/Choices.h"
 #include "state/Drag.h"
+#include "state/EditorBuffer.h"
 #include "state/Geometry.h"
+#include "state/ImageSource.h"
 #include "state/PaletteWindows.h"
 #include "state/Quote.h"
 #include "state/StoredWorkspace.h"
@@ -26,7 +28,6 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <set>
 #include <span>
@@ -35,23 +36,6 @@
 #include <vector>
 
 namespace tintra {
-
-class AppUndo;
-class Bench;
-class ContrastBoard;
-class Preferences;
-struct Services;
-
-/// The shared models that a palette window works with. Outlive it.
-struct AppContext {
-    Services& services;
-    Preferences& preferences;
-    AppUndo& undo;
-    Bench& bench;
-    ContrastBoard& contrast;
-    PaletteStore& store;
-    PaletteWindows& windows;
-};
 
 /// The model of one palette window: the seeds of its harmony, its palette, and how it is shown.
 /// Whatever changes the palette takes an undo checkpoint, marks the palette changed and schedules
@@ -63,40 +47,12 @@ public:
     using PaletteDisplay = tintra::PaletteDisplay;
     using ToastPlace = tintra::ToastPlace;
     using Stored = StoredWorkspace;
-
-    /// The swatch in the colour editor as it stands there, not applied yet.
-    struct EditorBuffer {
-        Uuid swatchID;
-        WashColor color;
-        bool operator==(const EditorBuffer&) const = default;
-    };
-
-    /// The picture in the picture pane.
-    struct ImageSource {
-        std::shared_ptr<const Picture> picture;
-        std::string name;          ///< of its file
-        std::filesystem::path url; ///< empty for a picture that came without a file
-        int count = 0;             ///< of colours, own pins not counted
-        ImagePalette::Emphasis emphasis = ImagePalette::Emphasis::dominant;
-        std::vector<ImagePalette::Extracted> found; ///< in order, the user's own pins last
-        bool extracting = false;                    ///< colours are on their way
-        int most = ImagePalette::kMostColours;      ///< the picture is known to have no more
-        /// Held by whoever reads the picture, on whatever thread.
-        std::shared_ptr<std::mutex> inUse = std::make_shared<std::mutex>();
-        bool operator==(const ImageSource& other) const;
-    };
+    using ImageSource = tintra::ImageSource;
+    using EditorBuffer = tintra::EditorBuffer;
+    using BandsKey = tintra::BandsKey;
 
     /// What the colours from a picture are to do with a palette that has some.
     enum class Arriving { add, replace };
-
-    /// What the bands of a harmony are computed from.
-    struct BandsKey {
-        WashColor first, last;
-        HarmonyMode mode = HarmonyMode::paletteBuilder;
-        int steps = 0, shades = 0;
-        BlendSpace space = BlendSpace::sRGB;
-        bool operator==(const BandsKey&) const = default;
-    };
 
     enum class Duplicates { refuse, allow };
 
@@ -386,7 +342,17 @@ public:
     void exchangeMove(std::size_t from, std::size_t to) override;
 
 private:
+    // The steps of operations, each in the file of its operations.
+    struct Loading;
+    struct Saving;
+    struct Installing;
+    struct Watching;
+    struct Extracting;
     struct Persisted;
+    struct PinMove {
+        std::size_t pin;
+        ImagePalette::Point to;
+    };
 
     /// Schedules the record with every change of a persisted property.
     void subscribe();
@@ -422,8 +388,6 @@ private:
     /// With a fresh identifier and the name as swatches have it.
     PaletteSwatch freshSwatch(const WashColor& colour, std::optional<std::string> name) const;
 
-    // Files
-
     /// Where saving puts the palette.
     enum class Home {
         nowhere,      ///< the user is asked
@@ -433,88 +397,18 @@ private:
         readOnly,     ///< its source is never written: to the colour picker
     };
     Home home() const;
-    /// The words for it in the question about unsaved changes.
-    std::string homeText() const;
-    struct Reading;
-    static Reading readPalette(const std::filesystem::path& file);
-    /// Reads swatches in the background and loads them; `shown` names the palette in a refusal.
-    void load(LoadedPalette palette, std::string shown, std::function<Reading()> read);
-    void show(LoadedPalette palette);
-    void leaveUntitled();
-    void takeRead(std::vector<PaletteFile::Swatch> now, const FileVersion& version);
-    void attach(PaletteAttachment to);
-    void moveTo(PaletteAttachment file);
-    void takeBack(const PaletteAttachment& file);
-    /// Goes on when no location but `except` watches the folder; otherwise says so.
-    void whenUnwatched(const std::filesystem::path& folder, std::optional<Uuid> except,
-                       std::function<void()> then);
-    void relocate(const Uuid& id, const std::filesystem::path& folder);
     /// The window's file as the Library knows it.
     PaletteStore::Entry entryOfFile() const;
-    void askFileName(NameQuestion question, void (AppState::*then)(std::string_view));
-
-    // Saving
-
-    struct Saving;
-    /// What a save that is under way delays.
-    void afterSaves(std::function<void()> then);
-    void saved(const Saving& saving, const std::optional<FileError>& error);
-    std::vector<std::string> translucentNames() const;
-    bool losesAlpha(ExportFormat format) const;
-    bool sourceMoved(const std::filesystem::path& file) const;
-    void saveBackAs(const std::filesystem::path& to, ExportFormat format, Done done);
-    void askAboutAlpha(const std::filesystem::path& to, ExportFormat format, Done done);
-    void askWhereToSave(ExportFormat proposed, Done done);
-    void saveNext();
-    /// Into the colour picker, as the source cannot be written; `said`: the notice.
-    void saveInsteadOf(const std::string& source, const std::string& said, Done done);
+    /// What `paletteViews` knows the palette by.
+    std::string displayKey() const;
+    void leaveUntitled();
+    void attach(PaletteAttachment to);
     /// The palette, as it was at that version, is kept in this file.
     void keep(PaletteAttachment in, std::uint64_t version);
-
-    // The colour picker (AppStateColourPicker.cpp)
-
     /// The notice about a palette that was kept under a name.
     using Said = std::function<std::string(std::string_view name)>;
-    void saveInPicker(std::string_view as, PaletteStore::Clash clash, const Said& said, Done done);
-    /// Asks when there is a list of that name.
+    /// In the colour picker; asks when there is a list of that name.
     void saveInPickerAsking(const std::string& as, Said said, Done done);
-    /// Nothing is answered for Cancel.
-    void askAboutClash(std::string_view name,
-                       std::function<void(std::optional<PaletteStore::Clash>)> answered);
-    void askToReplace(std::string_view name, std::string_view text,
-                      std::function<void(std::optional<PaletteStore::Clash>)> answered);
-    void withColorsFolder(std::function<void(bool granted)> then);
-    void askWhatToInstallAs(std::string title, std::string note,
-                            std::function<void(std::string)> then);
-    void install(const std::string& as);
-    void installCopy(const std::string& as, PaletteStore::Clash clash);
-    void askToRenameList(const std::string& as, PaletteStore::Clash clash);
-    void renameList(const std::string& as, PaletteStore::Clash clash);
-    void installFor(const InstallTarget& target, const std::string& as);
-    void sayInstalled(const std::string& as,
-                      const std::variant<PaletteStore::Saved, FileError>& result, const Said& said);
-
-    // Pictures
-
-    struct PictureRead;
-    static PictureRead readPicture(const OpenedPicture& opened, ImagePalette::Emphasis emphasis);
-    struct PinMove {
-        std::size_t pin;
-        ImagePalette::Point to;
-    };
-    void load(std::function<OpenedPicture()> picture, std::string name, std::filesystem::path url);
-    void show(PictureRead read, const std::string& name, const std::filesystem::path& url);
-    void extracted(ImagePalette::Colours colours, const ImageSource& before);
-    /// What was found, then the user's own pins.
-    static void take(std::vector<ImagePalette::Extracted> found, int asked, ImageSource& into);
-    void askAboutExisting();
-    void linkFoundToSwatches();
-    /// The colour there, in the background; dropped when the pins have changed meanwhile.
-    void readPixel(ImagePalette::Point at, std::function<void(std::optional<WashColor>)> then);
-    void readNextMove();
-    void pinMoved(const PinMove& move, const WashColor& colour);
-    std::optional<std::size_t> swatchOf(const ImagePalette::Extracted& pin) const;
-    std::string displayKey() const;
 
     const Uuid id_;
     const bool isPrimary_;

@@ -16,6 +16,27 @@ namespace tintra {
 using namespace SaveTexts;
 using Clash = PaletteStore::Clash;
 
+struct AppState::Installing {
+    static void saveInPicker(AppState& state, std::string_view as, Clash clash, const Said& said,
+                             Done done);
+    /// Asks when there is a list of that name. Nothing is answered for Cancel.
+    static void askAboutClash(AppState& state, std::string_view name,
+                              std::function<void(std::optional<Clash>)> answered);
+    static void askToReplace(AppState& state, std::string_view name, std::string_view text,
+                             std::function<void(std::optional<Clash>)> answered);
+    static void withColorsFolder(AppState& state, std::function<void(bool granted)> then);
+    static void askWhatToInstallAs(AppState& state, std::string title, std::string note,
+                                   std::function<void(std::string)> then);
+    static void install(AppState& state, const std::string& as);
+    static void installCopy(AppState& state, const std::string& as, Clash clash);
+    static void installInto(AppState& state, const InstallTarget& target, const std::string& as);
+    static void askToRenameList(AppState& state, const std::string& as, Clash clash);
+    static void renameList(AppState& state, const std::string& as, Clash clash);
+    static void sayInstalled(AppState& state, const std::string& as,
+                             const std::variant<PaletteStore::Saved, FileError>& result,
+                             const Said& said);
+};
+
 namespace {
 
 void tell(const AppState::Done& done, bool saved) {
@@ -25,62 +46,64 @@ void tell(const AppState::Done& done, bool saved) {
 } // namespace
 
 void AppState::savePalette(std::string_view as, Clash clash, Done done) {
-    saveInPicker(as, clash, savedToPickerText, std::move(done));
+    Installing::saveInPicker(*this, as, clash, savedToPickerText, std::move(done));
 }
 
 void AppState::saveInPickerAsking(const std::string& as, Said said, Done done) {
-    withColorsFolder([this, as, said, done = std::move(done)](bool granted) {
+    Installing::withColorsFolder(*this, [this, as, said, done = std::move(done)](bool granted) {
         if (!granted) {
             tell(done, false);
             return;
         }
-        askAboutClash(as, [this, as, said, done](std::optional<Clash> clash) {
+        Installing::askAboutClash(*this, as, [this, as, said, done](std::optional<Clash> clash) {
             if (clash)
-                saveInPicker(as, *clash, said, done);
+                Installing::saveInPicker(*this, as, *clash, said, done);
             else
                 tell(done, false);
         });
     });
 }
 
-void AppState::saveInPicker(std::string_view as, Clash clash, const Said& said, Done done) {
-    if (swatches().empty()) {
-        toast(std::string(kNoSwatches), kForCounts);
+void AppState::Installing::saveInPicker(AppState& state, std::string_view as, Clash clash,
+                                        const Said& said, Done done) {
+    if (state.swatches().empty()) {
+        state.toast(std::string(kNoSwatches), kForCounts);
         tell(done, false);
         return;
     }
-    const auto result = context_.store.save(colors(), names(), as, clash);
+    const auto result = state.context_.store.save(state.colors(), state.names(), as, clash);
     if (const auto* const error = std::get_if<FileError>(&result)) {
-        toast(couldNotText(as, "saved", error->why), kForCounts);
+        state.toast(couldNotText(as, "saved", error->why), kForCounts);
         tell(done, false);
         return;
     }
     const auto& list = std::get<PaletteStore::Saved>(result);
     auto text = said(list.name);
     if (list.oldIsInTrash) text += kOldListInTrash;
-    keep({list.name, list.file}, paletteVersion_.value());
-    toast(std::move(text), kForCounts);
+    state.keep({list.name, list.file}, state.paletteVersion_.value());
+    state.toast(std::move(text), kForCounts);
     tell(done, true);
 }
 
-void AppState::askAboutClash(std::string_view name,
-                             std::function<void(std::optional<Clash>)> answered) {
-    if (!context_.store.hasNamed(name)) {
+void AppState::Installing::askAboutClash(AppState& state, std::string_view name,
+                                         std::function<void(std::optional<Clash>)> answered) {
+    if (!state.context_.store.hasNamed(name)) {
         answered(Clash::keepBoth);
         return;
     }
-    askToReplace(name, kListExists, std::move(answered));
+    askToReplace(state, name, kListExists, std::move(answered));
 }
 
-void AppState::askToReplace(std::string_view name, std::string_view text,
-                            std::function<void(std::optional<Clash>)> answered) {
+void AppState::Installing::askToReplace(AppState& state, std::string_view name,
+                                        std::string_view text,
+                                        std::function<void(std::optional<Clash>)> answered) {
     Question question{replaceTitle(name),
                       std::string(text),
                       {std::string(kReplace), std::string(kKeepBoth), std::string(kCancel)},
-                      place()};
-    context_.services.dialogues.ask(
+                      state.place()};
+    state.context_.services.dialogues.ask(
         std::move(question),
-        whileAlive(alive_, [answered = std::move(answered)](std::size_t button) {
+        whileAlive(state.alive_, [answered = std::move(answered)](std::size_t button) {
             if (button > 1)
                 answered(std::nullopt);
             else
@@ -88,18 +111,19 @@ void AppState::askToReplace(std::string_view name, std::string_view text,
         }));
 }
 
-void AppState::withColorsFolder(std::function<void(bool granted)> then) {
-    if (context_.store.writableColorsFolder()) {
+void AppState::Installing::withColorsFolder(AppState& state,
+                                            std::function<void(bool granted)> then) {
+    if (state.context_.store.writableColorsFolder()) {
         then(true);
         return;
     }
-    context_.services.dialogues.askWhatToOpen(
-        {OpenQuestion::Of::folder, std::string(kInstallOnce), place()},
-        whileAlive(alive_, [this, then = std::move(then)](
-                               const std::optional<std::filesystem::path>& folder) {
+    state.context_.services.dialogues.askWhatToOpen(
+        {OpenQuestion::Of::folder, std::string(kInstallOnce), state.place()},
+        whileAlive(state.alive_, [&state, then = std::move(then)](
+                                     const std::optional<std::filesystem::path>& folder) {
             if (folder) {
                 const auto path = asBytes(folder->native());
-                context_.preferences.colorsFolderBookmark = Bytes(path.begin(), path.end());
+                state.context_.preferences.colorsFolderBookmark = Bytes(path.begin(), path.end());
             }
             then(folder.has_value());
         }));
@@ -107,103 +131,109 @@ void AppState::withColorsFolder(std::function<void(bool granted)> then) {
 
 // Installing
 
-void AppState::askWhatToInstallAs(std::string title, std::string note,
-                                  std::function<void(std::string)> then) {
-    if (swatches().empty()) {
-        toast(std::string(kNoSwatches), kForCounts);
+void AppState::Installing::askWhatToInstallAs(AppState& state, std::string title, std::string note,
+                                              std::function<void(std::string)> then) {
+    if (state.swatches().empty()) {
+        state.toast(std::string(kNoSwatches), kForCounts);
         return;
     }
-    context_.services.dialogues.askName(
-        {std::move(title), std::move(note), this->title(), "Install", whyUnfit, place()},
-        whileAlive(alive_, [then = std::move(then)](const std::optional<std::string>& name) {
+    state.context_.services.dialogues.askName(
+        {std::move(title), std::move(note), state.title(), "Install", whyUnfit, state.place()},
+        whileAlive(state.alive_, [then = std::move(then)](const std::optional<std::string>& name) {
             if (name) then(std::string(trimmed(*name)));
         }));
 }
 
 void AppState::installInColourPicker() {
-    withColorsFolder([this](bool granted) {
+    Installing::withColorsFolder(*this, [this](bool granted) {
         if (granted)
-            askWhatToInstallAs("Install in the colour picker as", std::string(kInstallNote),
-                               [this](const std::string& as) { install(as); });
+            Installing::askWhatToInstallAs(
+                *this, "Install in the colour picker as", std::string(kInstallNote),
+                [this](const std::string& as) { Installing::install(*this, as); });
     });
 }
 
-void AppState::install(const std::string& as) {
-    if (home() == Home::colourPicker && as == title()) {
-        savePalette();
+void AppState::Installing::install(AppState& state, const std::string& as) {
+    if (state.home() == Home::colourPicker && as == state.title()) {
+        state.savePalette();
         return;
     }
-    askAboutClash(as, [this, as](std::optional<Clash> clash) {
+    askAboutClash(state, as, [&state, as](std::optional<Clash> clash) {
         if (!clash) return;
-        if (home() == Home::colourPicker)
-            askToRenameList(as, *clash);
-        else if (home() == Home::nowhere)
-            savePalette(as, *clash);
+        if (state.home() == Home::colourPicker)
+            askToRenameList(state, as, *clash);
+        else if (state.home() == Home::nowhere)
+            state.savePalette(as, *clash);
         else
-            installCopy(as, *clash);
+            installCopy(state, as, *clash);
     });
 }
 
-void AppState::askToRenameList(const std::string& as, Clash clash) {
-    Question question{renameListTitle(title(), as),
-                      renameListText(title()),
+void AppState::Installing::askToRenameList(AppState& state, const std::string& as, Clash clash) {
+    Question question{renameListTitle(state.title(), as),
+                      renameListText(state.title()),
                       {std::string(kRename), std::string(kKeepBoth), std::string(kCancel)},
-                      place()};
-    context_.services.dialogues.ask(std::move(question),
-                                    whileAlive(alive_, [this, as, clash](std::size_t button) {
-                                        if (button == 0)
-                                            renameList(as, clash);
-                                        else if (button == 1)
-                                            installCopy(as, clash);
-                                    }));
+                      state.place()};
+    state.context_.services.dialogues.ask(
+        std::move(question), whileAlive(state.alive_, [&state, as, clash](std::size_t button) {
+            if (button == 0)
+                renameList(state, as, clash);
+            else if (button == 1)
+                installCopy(state, as, clash);
+        }));
 }
 
-void AppState::renameList(const std::string& as, Clash clash) {
-    const auto old = entryOfFile();
-    savePalette(as, clash, [this, old](bool saved) {
+void AppState::Installing::renameList(AppState& state, const std::string& as, Clash clash) {
+    const auto old = state.entryOfFile();
+    state.savePalette(as, clash, [&state, old](bool saved) {
         if (!saved) return;
-        const auto trashed = context_.store.trash(old);
+        const auto trashed = state.context_.store.trash(old);
         if (const auto* const error = std::get_if<FileError>(&trashed))
-            toast(couldNotText(old.name, "moved to the Trash", error->why), kForCounts);
+            state.toast(couldNotText(old.name, "moved to the Trash", error->why), kForCounts);
         else
-            toast(savedToPickerText(title()) + std::string(kOldListInTrash), kForCounts);
+            state.toast(savedToPickerText(state.title()) + std::string(kOldListInTrash),
+                        kForCounts);
     });
 }
 
-void AppState::installCopy(const std::string& as, Clash clash) {
-    const auto result = context_.store.save(colors(), names(), as, clash);
-    sayInstalled(as, result, savedToPickerText);
+void AppState::Installing::installCopy(AppState& state, const std::string& as, Clash clash) {
+    const auto result = state.context_.store.save(state.colors(), state.names(), as, clash);
+    sayInstalled(state, as, result, savedToPickerText);
 }
 
-void AppState::sayInstalled(const std::string& as,
-                            const std::variant<PaletteStore::Saved, FileError>& result,
-                            const Said& said) {
+void AppState::Installing::sayInstalled(AppState& state, const std::string& as,
+                                        const std::variant<PaletteStore::Saved, FileError>& result,
+                                        const Said& said) {
     if (const auto* const error = std::get_if<FileError>(&result)) {
-        toast(couldNotText(as, "saved", error->why), kForCounts);
+        state.toast(couldNotText(as, "saved", error->why), kForCounts);
         return;
     }
     const auto& saved = std::get<PaletteStore::Saved>(result);
     auto text = said(saved.name);
     if (saved.oldIsInTrash) text += kOldListInTrash;
     // It may have replaced the list that a window shows.
-    static_cast<void>(context_.windows.saved(saved.file));
-    toast(std::move(text), kForCounts);
+    static_cast<void>(state.context_.windows.saved(saved.file));
+    state.toast(std::move(text), kForCounts);
 }
 
 void AppState::installFor(const InstallTarget& target) {
-    askWhatToInstallAs(installForTitle(target.title), target.folder.string(),
-                       [this, target](const std::string& as) { installFor(target, as); });
+    Installing::askWhatToInstallAs(
+        *this, installForTitle(target.title), target.folder.string(),
+        [this, target](const std::string& as) { Installing::installInto(*this, target, as); });
 }
 
-void AppState::installFor(const InstallTarget& target, const std::string& as) {
-    const auto install = [this, target, as](std::optional<Clash> clash) {
+void AppState::Installing::installInto(AppState& state, const InstallTarget& target,
+                                       const std::string& as) {
+    const auto install = [&state, target, as](std::optional<Clash> clash) {
         if (!clash) return;
-        sayInstalled(as, context_.store.install(colors(), names(), as, target, *clash),
-                     [&](std::string_view name) { return installedText(name, target.title); });
+        sayInstalled(
+            state, as,
+            state.context_.store.install(state.colors(), state.names(), as, target, *clash),
+            [&](std::string_view name) { return installedText(name, target.title); });
     };
     std::error_code ignored;
     if (std::filesystem::exists(target.folder / (fitFileName(as) + ".gpl"), ignored))
-        askToReplace(as, kPaletteExists, install);
+        askToReplace(state, as, kPaletteExists, install);
     else
         install(Clash::keepBoth);
 }

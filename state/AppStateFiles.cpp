@@ -17,10 +17,23 @@
 
 namespace tintra {
 
-/// What a palette file gave. Without swatches it is a palette of none, or cannot be read.
-struct AppState::Reading {
-    std::vector<PaletteFile::Swatch> swatches;
-    bool isEmpty = false;
+struct AppState::Loading {
+    /// What a palette file gave. Without swatches it is a palette of none, or cannot be read.
+    struct Reading {
+        std::vector<PaletteFile::Swatch> swatches;
+        bool isEmpty = false;
+    };
+    static Reading readPalette(const std::filesystem::path& file);
+    /// Reads in the background; `shown` names the palette in a refusal.
+    static void load(AppState& state, LoadedPalette palette, std::string shown,
+                     std::function<Reading()> read);
+    static void show(AppState& state, LoadedPalette palette);
+    static void takeRead(AppState& state, std::vector<PaletteFile::Swatch> now,
+                         const FileVersion& version);
+    static void askFileName(AppState& state, NameQuestion question,
+                            void (AppState::*then)(std::string_view));
+    static void moveTo(AppState& state, PaletteAttachment file);
+    static void takeBack(AppState& state, const PaletteAttachment& file);
 };
 
 namespace {
@@ -77,48 +90,51 @@ void AppState::open() {
         }));
 }
 
-AppState::Reading AppState::readPalette(const std::filesystem::path& file) {
+AppState::Loading::Reading AppState::Loading::readPalette(const std::filesystem::path& file) {
     if (auto swatches = PaletteFile::readNamed(file)) return {*std::move(swatches)};
     return {{}, isEmptyFile(file)};
 }
 
 void AppState::open(const std::filesystem::path& file) {
-    load({file.stem().string(), file, {}, {}}, file.filename().string(),
-         [file] { return readPalette(file); });
+    Loading::load(*this, {file.stem().string(), file, {}, {}}, file.filename().string(),
+                  [file] { return Loading::readPalette(file); });
 }
 
 void AppState::loadPalette(const PaletteStore::Entry& entry) {
     LoadedPalette palette{entry.name, {}, {}, {}};
     if (entry.isEditable && !entry.url.empty()) palette.url = entry.url;
     if (entry.url.empty()) {
-        load(std::move(palette), entry.name, [found = entry.palette] {
-            return Reading{found ? found->swatches : std::vector<PaletteFile::Swatch>{}};
+        Loading::load(*this, std::move(palette), entry.name, [found = entry.palette] {
+            return Loading::Reading{found ? found->swatches : std::vector<PaletteFile::Swatch>{}};
         });
         return;
     }
-    load(std::move(palette), entry.name, [&cache = context_.store.cache(), file = entry.url] {
-        const auto found = cache.warm(file);
-        if (found && !found->swatches.empty()) return Reading{found->swatches};
-        return Reading{{}, isEmptyFile(file)};
-    });
+    Loading::load(*this, std::move(palette), entry.name,
+                  [&cache = context_.store.cache(), file = entry.url] {
+                      const auto found = cache.warm(file);
+                      if (found && !found->swatches.empty())
+                          return Loading::Reading{found->swatches};
+                      return Loading::Reading{{}, isEmptyFile(file)};
+                  });
 }
 
-void AppState::load(LoadedPalette palette, std::string shown, std::function<Reading()> read) {
-    const auto turn = ++loadTurn_;
+void AppState::Loading::load(AppState& state, LoadedPalette palette, std::string shown,
+                             std::function<Reading()> read) {
+    const auto turn = ++state.loadTurn_;
     // Asked before reading: a file that changes meanwhile counts as changed.
-    if (palette.url) palette.version = context_.windows.version(*palette.url);
-    inBackground(context_.services, alive_, std::move(read),
-                 [this, turn, palette = std::move(palette),
+    if (palette.url) palette.version = state.context_.windows.version(*palette.url);
+    inBackground(state.context_.services, state.alive_, std::move(read),
+                 [&state, turn, palette = std::move(palette),
                   shown = std::move(shown)](Reading&& found) mutable {
-                     if (turn != loadTurn_) return;
+                     if (turn != state.loadTurn_) return;
                      if (found.swatches.empty()) {
-                         toast(found.isEmpty ? SaveTexts::emptyText(shown)
-                                             : SaveTexts::unreadableText(shown),
-                               kBriefly);
+                         state.toast(found.isEmpty ? SaveTexts::emptyText(shown)
+                                                   : SaveTexts::unreadableText(shown),
+                                     kBriefly);
                          return;
                      }
                      palette.swatches = std::move(found.swatches);
-                     loadPalette(std::move(palette));
+                     state.loadPalette(std::move(palette));
                  });
 }
 
@@ -135,25 +151,26 @@ void AppState::loadPalette(LoadedPalette palette) {
     confirmDiscardingChanges(
         "opening another palette",
         whileAlive(alive_, [this, palette = std::move(palette)](bool goesOn) mutable {
-            if (goesOn) show(std::move(palette));
+            if (goesOn) Loading::show(*this, std::move(palette));
         }));
 }
 
-void AppState::show(LoadedPalette palette) {
-    ++loadTurn_;
-    ++contentTurn_;
-    if (!swatches().empty() || attachment_.value()) checkpointPalette();
+void AppState::Loading::show(AppState& state, LoadedPalette palette) {
+    ++state.loadTurn_;
+    ++state.contentTurn_;
+    if (!state.swatches().empty() || state.attachment_.value()) state.checkpointPalette();
     std::vector<PaletteSwatch> fresh;
     fresh.reserve(palette.swatches.size());
     for (auto& swatch : palette.swatches)
-        fresh.push_back(freshSwatch(swatch.color, std::move(swatch.name)));
+        fresh.push_back(state.freshSwatch(swatch.color, std::move(swatch.name)));
     const UpdateGroup group;
-    setSwatches(std::move(fresh));
-    selectedSwatch = std::nullopt;
-    attachment_ = PaletteAttachment{palette.name, palette.url.value_or(std::filesystem::path())};
-    loadedVersion_ = palette.version;
-    dirty_ = false;
-    announcePalette();
+    state.setSwatches(std::move(fresh));
+    state.selectedSwatch = std::nullopt;
+    state.attachment_ =
+        PaletteAttachment{palette.name, palette.url.value_or(std::filesystem::path())};
+    state.loadedVersion_ = palette.version;
+    state.dirty_ = false;
+    state.announcePalette();
 }
 
 // What other windows save
@@ -163,30 +180,31 @@ void AppState::takeSaved(const AppState&) {
     if (restoring_ || dirty_.value() || !file) return;
     const auto turn = contentTurn_;
     inBackground(
-        context_.services, alive_, [file = *file] { return readPalette(file); },
-        [this, turn, version = context_.windows.version(*file)](Reading&& found) {
+        context_.services, alive_, [file = *file] { return Loading::readPalette(file); },
+        [this, turn, version = context_.windows.version(*file)](Loading::Reading&& found) {
             // Edits made meanwhile stay; saving them asks about the other window's save.
             if (turn != contentTurn_ || dirty_.value() || found.swatches.empty()) return;
-            takeRead(std::move(found.swatches), version);
+            Loading::takeRead(*this, std::move(found.swatches), version);
         });
 }
 
-void AppState::takeRead(std::vector<PaletteFile::Swatch> now, const FileVersion& version) {
-    const auto matches = matchedSwatches(swatches(), now);
+void AppState::Loading::takeRead(AppState& state, std::vector<PaletteFile::Swatch> now,
+                                 const FileVersion& version) {
+    const auto matches = matchedSwatches(state.swatches(), now);
     std::vector<PaletteSwatch> taken;
     taken.reserve(now.size());
     for (std::size_t i = 0; i < now.size(); ++i) {
-        taken.push_back(freshSwatch(now[i].color, std::move(now[i].name)));
+        taken.push_back(state.freshSwatch(now[i].color, std::move(now[i].name)));
         if (matches[i]) taken.back().id = *matches[i];
     }
     // What this window undid would bring back a palette that was never followed by this one, and a
     // step of undo for the reload would come before the other window's own.
-    context_.undo.discardEntries(id_);
+    state.context_.undo.discardEntries(state.id_);
     const UpdateGroup group;
-    setSwatches(std::move(taken));
-    loadedVersion_ = version;
-    announcePalette();
-    toast(std::string(SaveTexts::kUpdated), kBriefly);
+    state.setSwatches(std::move(taken));
+    state.loadedVersion_ = version;
+    state.announcePalette();
+    state.toast(std::string(SaveTexts::kUpdated), kBriefly);
 }
 
 // The window's file
@@ -204,9 +222,10 @@ PaletteStore::Entry AppState::entryOfFile() const {
     return entry;
 }
 
-void AppState::askFileName(NameQuestion question, void (AppState::*then)(std::string_view)) {
-    question.over = place();
-    question.refusal = [entry = entryOfFile(), &store = context_.store](
+void AppState::Loading::askFileName(AppState& state, NameQuestion question,
+                                    void (AppState::*then)(std::string_view)) {
+    question.over = state.place();
+    question.refusal = [entry = state.entryOfFile(), &store = state.context_.store](
                            std::string_view name) -> std::optional<std::string> {
         if (auto refused = whyUnfit(name)) return refused;
         std::error_code ignored;
@@ -214,10 +233,10 @@ void AppState::askFileName(NameQuestion question, void (AppState::*then)(std::st
         if (std::filesystem::exists(there, ignored)) return SaveTexts::alreadyThereText(name);
         return std::nullopt;
     };
-    context_.services.dialogues.askName(
+    state.context_.services.dialogues.askName(
         std::move(question),
-        whileAlive(alive_, [this, then](const std::optional<std::string>& name) {
-            if (name) (this->*then)(trimmed(*name));
+        whileAlive(state.alive_, [&state, then](const std::optional<std::string>& name) {
+            if (name) (state.*then)(trimmed(*name));
         }));
 }
 
@@ -225,13 +244,15 @@ void AppState::duplicatePalette() {
     const auto entry = entryOfFile();
     const bool isList =
         entry.url.empty() || entry.group == PaletteStore::Entry::Group::colourPicker;
-    askFileName({.title = SaveTexts::duplicateTitle(title()),
-                 .note = std::string(isList ? SaveTexts::kCopyInPicker : SaveTexts::kCopyBeside),
-                 .proposal = title() + " copy",
-                 .button = "Duplicate",
-                 .refusal = {},
-                 .over = {}},
-                &AppState::duplicatePalette);
+    Loading::askFileName(
+        *this,
+        {.title = SaveTexts::duplicateTitle(title()),
+         .note = std::string(isList ? SaveTexts::kCopyInPicker : SaveTexts::kCopyBeside),
+         .proposal = title() + " copy",
+         .button = "Duplicate",
+         .refusal = {},
+         .over = {}},
+        &AppState::duplicatePalette);
 }
 
 void AppState::duplicatePalette(std::string_view as) {
@@ -251,13 +272,14 @@ void AppState::duplicatePalette(std::string_view as) {
 
 void AppState::renamePalette() {
     if (!currentPaletteURL()) return;
-    askFileName({.title = SaveTexts::renameTitle(title()),
-                 .note = {},
-                 .proposal = title(),
-                 .button = std::string(SaveTexts::kRename),
-                 .refusal = {},
-                 .over = {}},
-                &AppState::renamePalette);
+    Loading::askFileName(*this,
+                         {.title = SaveTexts::renameTitle(title()),
+                          .note = {},
+                          .proposal = title(),
+                          .button = std::string(SaveTexts::kRename),
+                          .refusal = {},
+                          .over = {}},
+                         &AppState::renamePalette);
 }
 
 void AppState::renamePalette(std::string_view to) {
@@ -274,20 +296,20 @@ void AppState::renamePalette(std::string_view to) {
         toast(SaveTexts::couldNotText(from->filename().string(), "renamed", error->why),
               kForCounts);
     } else {
-        moveTo({std::string(to), there});
+        Loading::moveTo(*this, {std::string(to), there});
     }
 }
 
 /// The file is another one by name only, so what is known of its state stays true.
-void AppState::moveTo(PaletteAttachment file) {
-    const auto from = displayKey();
-    loadedVersion_.saves = context_.windows.version(file.url).saves;
-    attach(std::move(file));
-    auto views = context_.preferences.paletteViews.value();
+void AppState::Loading::moveTo(AppState& state, PaletteAttachment file) {
+    const auto from = state.displayKey();
+    state.loadedVersion_.saves = state.context_.windows.version(file.url).saves;
+    state.attach(std::move(file));
+    auto views = state.context_.preferences.paletteViews.value();
     if (auto view = views.extract(from)) {
-        view.key() = displayKey();
+        view.key() = state.displayKey();
         views.insert(std::move(view));
-        context_.preferences.paletteViews = views;
+        state.context_.preferences.paletteViews = views;
     }
 }
 
@@ -324,15 +346,15 @@ void AppState::trashPalette() {
                                                         "put back", error->why),
                                 kForCounts, {}, at);
                         else if (!alive.expired())
-                            takeBack(attached);
+                            Loading::takeBack(*this, attached);
                     }});
 }
 
-void AppState::takeBack(const PaletteAttachment& file) {
-    if (attachment_.value()) return;
+void AppState::Loading::takeBack(AppState& state, const PaletteAttachment& file) {
+    if (state.attachment_.value()) return;
     const UpdateGroup group;
-    loadedVersion_ = context_.windows.version(file.url);
-    attach(file);
+    state.loadedVersion_ = state.context_.windows.version(file.url);
+    state.attach(file);
 }
 
 void AppState::revealPalette() {

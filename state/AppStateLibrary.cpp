@@ -11,6 +11,13 @@
 
 namespace tintra {
 
+struct AppState::Watching {
+    /// Goes on when no location but `except` watches the folder; otherwise says so.
+    static void whenUnwatched(AppState& state, const std::filesystem::path& folder,
+                              std::optional<Uuid> except, std::function<void()> then);
+    static void relocate(AppState& state, const Uuid& id, const std::filesystem::path& folder);
+};
+
 namespace {
 
 /// Two paths to one folder become one.
@@ -37,7 +44,7 @@ void AppState::addPaletteLocation() {
 }
 
 void AppState::addPaletteLocation(const std::filesystem::path& folder) {
-    whenUnwatched(folder, {}, [this, folder] {
+    Watching::whenUnwatched(*this, folder, {}, [this, folder] {
         auto locations = context_.preferences.paletteLocations.value();
         locations.push_back({.id = context_.services.chance.uuid(),
                              .nickname = nicknameOf(folder),
@@ -48,26 +55,26 @@ void AppState::addPaletteLocation(const std::filesystem::path& folder) {
     });
 }
 
-void AppState::whenUnwatched(const std::filesystem::path& folder, std::optional<Uuid> except,
-                             std::function<void()> then) {
+void AppState::Watching::whenUnwatched(AppState& state, const std::filesystem::path& folder,
+                                       std::optional<Uuid> except, std::function<void()> then) {
     std::vector<std::filesystem::path> watched;
-    for (const auto& location : context_.preferences.paletteLocations.value())
+    for (const auto& location : state.context_.preferences.paletteLocations.value())
         if (location.id != except) watched.push_back(location.path);
     // A folder that has gone away with its server can take long to look at.
     inBackground(
-        context_.services, alive_,
+        state.context_.services, state.alive_,
         [folder, watched = std::move(watched)] {
             const auto same = canonicalFolder(folder);
             return std::ranges::any_of(
                 watched, [&](const auto& other) { return canonicalFolder(other) == same; });
         },
-        [this, folder, except, then = std::move(then)](bool isWatched) {
+        [&state, folder, except, then = std::move(then)](bool isWatched) {
             // Another answer may have added it meanwhile.
-            const auto& now = context_.preferences.paletteLocations.value();
+            const auto& now = state.context_.preferences.paletteLocations.value();
             if (isWatched || std::ranges::any_of(now, [&](const auto& location) {
                     return location.id != except && location.path == folder;
                 }))
-                toast(std::string(SaveTexts::kAlreadyWatched), kBriefly);
+                state.toast(std::string(SaveTexts::kAlreadyWatched), kBriefly);
             else
                 then();
         });
@@ -86,17 +93,21 @@ void AppState::rechoosePaletteLocation(const Uuid& id) {
     context_.services.dialogues.askWhatToOpen(
         {OpenQuestion::Of::folder, SaveTexts::chooseAgainText(found->nickname), place()},
         whileAlive(alive_, [this, id](const std::optional<std::filesystem::path>& folder) {
-            if (folder) whenUnwatched(*folder, id, [this, id, folder] { relocate(id, *folder); });
+            if (folder)
+                Watching::whenUnwatched(*this, *folder, id, [this, id, folder] {
+                    Watching::relocate(*this, id, *folder);
+                });
         }));
 }
 
-void AppState::relocate(const Uuid& id, const std::filesystem::path& folder) {
-    auto locations = context_.preferences.paletteLocations.value();
+void AppState::Watching::relocate(AppState& state, const Uuid& id,
+                                  const std::filesystem::path& folder) {
+    auto locations = state.context_.preferences.paletteLocations.value();
     const auto found = std::ranges::find(locations, id, &PaletteLocation::id);
     if (found == locations.end()) return;
     found->path = folder;
     found->bookmark.reset();
-    context_.preferences.paletteLocations = std::move(locations);
+    state.context_.preferences.paletteLocations = std::move(locations);
 }
 
 } // namespace tintra

@@ -13,11 +13,30 @@ namespace tintra {
 
 using ImagePalette::Extracted;
 
-/// A picture and its first colours; a refusal when it cannot be read.
-struct AppState::PictureRead {
-    std::shared_ptr<const Picture> picture;
-    std::vector<Extracted> found;
-    std::optional<PictureError> error;
+struct AppState::Extracting {
+    /// A picture and its first colours; a refusal when it cannot be read.
+    struct PictureRead {
+        std::shared_ptr<const Picture> picture;
+        std::vector<Extracted> found;
+        std::optional<PictureError> error;
+    };
+    static PictureRead readPicture(const OpenedPicture& opened, ImagePalette::Emphasis emphasis);
+    static void openWith(AppState& state, std::function<OpenedPicture()> picture, std::string name,
+                         std::filesystem::path url);
+    static void present(AppState& state, PictureRead read, const std::string& name,
+                        const std::filesystem::path& url);
+    static void extracted(AppState& state, ImagePalette::Colours colours,
+                          const ImageSource& before);
+    /// What was found, then the user's own pins.
+    static void take(std::vector<Extracted> found, int asked, ImageSource& into);
+    static void askAboutExisting(AppState& state);
+    static void linkFoundToSwatches(AppState& state);
+    /// The colour there, in the background.
+    static void readPixel(AppState& state, ImagePalette::Point at,
+                          std::function<void(std::optional<WashColor>)> then);
+    static void readNextMove(AppState& state);
+    static void pinMoved(AppState& state, const PinMove& move, const WashColor& colour);
+    static std::optional<std::size_t> swatchOf(const AppState& state, const Extracted& pin);
 };
 
 namespace {
@@ -31,17 +50,7 @@ std::shared_ptr<const Picture> forgettable(std::shared_ptr<const Picture> pictur
             [held = std::move(picture)](const Picture* closed) { ImagePalette::forget(*closed); }};
 }
 
-bool looksTheSame(const Extracted& a, const Extracted& b) {
-    return a == b && a.share == b.share && a.swatchID == b.swatchID && a.isOwn == b.isOwn;
-}
-
 } // namespace
-
-bool AppState::ImageSource::operator==(const ImageSource& other) const {
-    return picture == other.picture && name == other.name && url == other.url &&
-           count == other.count && emphasis == other.emphasis && extracting == other.extracting &&
-           most == other.most && std::ranges::equal(found, other.found, looksTheSame);
-}
 
 // Opening
 
@@ -54,16 +63,18 @@ void AppState::chooseImage() {
 }
 
 void AppState::loadImage(const std::filesystem::path& file) {
-    load([file] { return openPicture(file); }, file.filename().string(), file);
+    Extracting::openWith(
+        *this, [file] { return openPicture(file); }, file.filename().string(), file);
 }
 
 void AppState::loadImage(Bytes content, std::string name) {
-    load([content = std::move(content)] { return openPicture(ByteView(content)); }, std::move(name),
-         {});
+    Extracting::openWith(*this,
+                         [content = std::move(content)] { return openPicture(ByteView(content)); },
+                         std::move(name), {});
 }
 
-AppState::PictureRead AppState::readPicture(const OpenedPicture& opened,
-                                            ImagePalette::Emphasis emphasis) {
+AppState::Extracting::PictureRead
+AppState::Extracting::readPicture(const OpenedPicture& opened, ImagePalette::Emphasis emphasis) {
     if (const auto* const error = std::get_if<PictureError>(&opened)) return {{}, {}, *error};
     auto picture = forgettable(std::get<std::shared_ptr<const Picture>>(opened));
     auto colours = ImagePalette::extract(*picture, kFirstCount, emphasis);
@@ -71,41 +82,42 @@ AppState::PictureRead AppState::readPicture(const OpenedPicture& opened,
     return {std::move(picture), std::get<std::vector<Extracted>>(std::move(colours)), {}};
 }
 
-void AppState::load(std::function<OpenedPicture()> picture, std::string name,
-                    std::filesystem::path url) {
-    const auto turn = ++pictureTurn_;
+void AppState::Extracting::openWith(AppState& state, std::function<OpenedPicture()> picture,
+                                    std::string name, std::filesystem::path url) {
+    const auto turn = ++state.pictureTurn_;
     inBackground(
-        context_.services, alive_,
-        [picture = std::move(picture), emphasis = imageSource.value().emphasis] {
+        state.context_.services, state.alive_,
+        [picture = std::move(picture), emphasis = state.imageSource.value().emphasis] {
             return readPicture(picture(), emphasis);
         },
-        [this, turn, name = std::move(name), url = std::move(url)](PictureRead&& read) {
-            if (turn == pictureTurn_) show(std::move(read), name, url);
+        [&state, turn, name = std::move(name), url = std::move(url)](PictureRead&& read) {
+            if (turn == state.pictureTurn_) present(state, std::move(read), name, url);
         });
 }
 
-void AppState::show(PictureRead read, const std::string& name, const std::filesystem::path& url) {
+void AppState::Extracting::present(AppState& state, PictureRead read, const std::string& name,
+                                   const std::filesystem::path& url) {
     if (read.error || read.found.empty()) {
-        toast(read.error ? SaveTexts::noImageText(name, *read.error)
-                         : SaveTexts::nothingToExtractText(name),
-              kBriefly);
+        state.toast(read.error ? SaveTexts::noImageText(name, *read.error)
+                               : SaveTexts::nothingToExtractText(name),
+                    kBriefly);
         return;
     }
-    ++pinTurn_;
+    ++state.pinTurn_;
     const UpdateGroup group;
     ImageSource source;
     source.picture = std::move(read.picture);
     source.name = name;
     source.url = url;
-    source.emphasis = imageSource.value().emphasis;
+    source.emphasis = state.imageSource.value().emphasis;
     take(std::move(read.found), kFirstCount, source);
-    imageSource = std::move(source);
-    if (isPictureWindowOpen.value()) return;
-    const auto& views = context_.preferences.paletteViews.value();
-    const auto view = views.find(displayKey());
-    viewBeforePicture = view == views.end() ? PaletteDisplay::columns : view->second;
-    isPictureWindowOpen = true;
-    if (const auto& open = context_.preferences.windows.openPictureWindow) open(id_);
+    state.imageSource = std::move(source);
+    if (state.isPictureWindowOpen.value()) return;
+    const auto& views = state.context_.preferences.paletteViews.value();
+    const auto view = views.find(state.displayKey());
+    state.viewBeforePicture = view == views.end() ? PaletteDisplay::columns : view->second;
+    state.isPictureWindowOpen = true;
+    if (const auto& open = state.context_.preferences.windows.openPictureWindow) open(state.id_);
 }
 
 void AppState::closePicture() {
@@ -152,26 +164,27 @@ void AppState::reextract(int count, ImagePalette::Emphasis emphasis) {
             return ImagePalette::extract(*picture, count, emphasis);
         },
         [this, turn = ++pictureTurn_, before](ImagePalette::Colours&& colours) {
-            if (turn == pictureTurn_) extracted(std::move(colours), before);
+            if (turn == pictureTurn_) Extracting::extracted(*this, std::move(colours), before);
         });
 }
 
-void AppState::extracted(ImagePalette::Colours colours, const ImageSource& before) {
-    auto source = imageSource.value();
+void AppState::Extracting::extracted(AppState& state, ImagePalette::Colours colours,
+                                     const ImageSource& before) {
+    auto source = state.imageSource.value();
     source.extracting = false;
     if (const auto* const error = std::get_if<PictureError>(&colours)) {
         source.count = before.count;
         source.emphasis = before.emphasis;
-        toast(SaveTexts::noImageText(source.name, *error), kBriefly);
+        state.toast(SaveTexts::noImageText(source.name, *error), kBriefly);
     } else {
-        ++pinTurn_;
+        ++state.pinTurn_;
         const auto asked = source.count;
         take(std::get<std::vector<Extracted>>(std::move(colours)), asked, source);
     }
-    imageSource = std::move(source);
+    state.imageSource = std::move(source);
 }
 
-void AppState::take(std::vector<Extracted> found, int asked, ImageSource& into) {
+void AppState::Extracting::take(std::vector<Extracted> found, int asked, ImageSource& into) {
     into.count = static_cast<int>(found.size());
     // All that there is was found when there was less than asked for.
     if (into.count < asked) into.most = into.count;
@@ -193,20 +206,21 @@ void AppState::applyExtraction() {
     else if (swatches().empty())
         applyExtraction(Arriving::add);
     else
-        askAboutExisting();
+        Extracting::askAboutExisting(*this);
 }
 
-void AppState::askAboutExisting() {
-    Question question{SaveTexts::addColoursTitle(imageSource.value().found.size()),
-                      SaveTexts::addColoursText(swatches().size()),
+void AppState::Extracting::askAboutExisting(AppState& state) {
+    Question question{SaveTexts::addColoursTitle(state.imageSource.value().found.size()),
+                      SaveTexts::addColoursText(state.swatches().size()),
                       {std::string(SaveTexts::kAddToPalette), std::string(SaveTexts::kReplace),
                        std::string(SaveTexts::kCancel)},
-                      place()};
-    context_.services.dialogues.ask(std::move(question),
-                                    whileAlive(alive_, [this](std::size_t button) {
-                                        if (button == 0) applyExtraction(Arriving::add);
-                                        if (button == 1) applyExtraction(Arriving::replace);
-                                    }));
+                      state.place()};
+    state.context_.services.dialogues.ask(std::move(question),
+                                          whileAlive(state.alive_, [&state](std::size_t button) {
+                                              if (button == 0) state.applyExtraction(Arriving::add);
+                                              if (button == 1)
+                                                  state.applyExtraction(Arriving::replace);
+                                          }));
 }
 
 void AppState::applyExtraction(Arriving arriving) {
@@ -221,41 +235,42 @@ void AppState::applyExtraction(Arriving arriving) {
         addAllToPalette(colours);
     else
         replacePalette(colours, {});
-    linkFoundToSwatches();
+    Extracting::linkFoundToSwatches(*this);
 }
 
-void AppState::linkFoundToSwatches() {
+void AppState::Extracting::linkFoundToSwatches(AppState& state) {
     std::map<std::string, Uuid> byIdentity;
-    for (const auto& swatch : swatches())
+    for (const auto& swatch : state.swatches())
         byIdentity.emplace(swatch.color.identity(), swatch.id);
-    auto source = imageSource.value();
+    auto source = state.imageSource.value();
     for (auto& colour : source.found) {
-        if (swatchOf(colour)) continue;
+        if (swatchOf(state, colour)) continue;
         const auto swatch = byIdentity.find(colour.color.identity());
         if (swatch != byIdentity.end()) colour.swatchID = swatch->second.text();
     }
-    imageSource = std::move(source);
+    state.imageSource = std::move(source);
 }
 
 // Pins
 
-std::optional<std::size_t> AppState::swatchOf(const Extracted& pin) const {
+std::optional<std::size_t> AppState::Extracting::swatchOf(const AppState& state,
+                                                          const Extracted& pin) {
     const auto id = pin.swatchID ? Uuid::fromText(*pin.swatchID) : std::nullopt;
-    return id ? indexOf(*id) : std::nullopt;
+    return id ? state.indexOf(*id) : std::nullopt;
 }
 
 std::vector<Uuid> AppState::pinSwatchIDs() const {
     std::vector<Uuid> ids;
     for (const auto& pin : imageSource.value().found)
-        if (const auto at = swatchOf(pin)) ids.push_back(swatches()[*at].id);
+        if (const auto at = Extracting::swatchOf(*this, pin)) ids.push_back(swatches()[*at].id);
     return ids;
 }
 
-void AppState::readPixel(ImagePalette::Point at,
-                         std::function<void(std::optional<WashColor>)> then) {
-    const auto& source = imageSource.value();
+void AppState::Extracting::readPixel(AppState& state, ImagePalette::Point at,
+                                     std::function<void(std::optional<WashColor>)> then) {
+    const auto& source = state.imageSource.value();
     inBackground(
-        context_.services, alive_,
+        state.context_.services, state.alive_,
         [picture = source.picture, inUse = source.inUse, at] {
             const std::scoped_lock lock(*inUse);
             return ImagePalette::colour(*picture, at);
@@ -266,7 +281,7 @@ void AppState::readPixel(ImagePalette::Point at,
 void AppState::addPin(ImagePalette::Point at) {
     const auto picture = imageSource.value().picture;
     if (!picture) return;
-    readPixel(at, [this, at, picture](const std::optional<WashColor>& colour) {
+    Extracting::readPixel(*this, at, [this, at, picture](const std::optional<WashColor>& colour) {
         // A colour that the palette refuses gets no pin; the refusal has been shown.
         if (!colour || imageSource.value().picture != picture) return;
         const UpdateGroup group;
@@ -280,31 +295,32 @@ void AppState::addPin(ImagePalette::Point at) {
 void AppState::movePin(std::size_t pin, ImagePalette::Point to) {
     if (pin >= imageSource.value().found.size()) return;
     nextMove_ = PinMove{pin, to};
-    if (!readingPin_) readNextMove();
+    if (!readingPin_) Extracting::readNextMove(*this);
 }
 
-void AppState::readNextMove() {
-    const auto move = *std::exchange(nextMove_, std::nullopt);
-    readingPin_ = true;
-    readPixel(move.to, [this, move, turn = pinTurn_](const std::optional<WashColor>& colour) {
-        readingPin_ = false;
-        if (turn != pinTurn_) nextMove_.reset();
-        if (turn == pinTurn_ && colour) pinMoved(move, *colour);
-        // Of the places that a drag passed meanwhile only the last one counts.
-        if (nextMove_) readNextMove();
-    });
+void AppState::Extracting::readNextMove(AppState& state) {
+    const auto move = *std::exchange(state.nextMove_, std::nullopt);
+    state.readingPin_ = true;
+    readPixel(state, move.to,
+              [&state, move, turn = state.pinTurn_](const std::optional<WashColor>& colour) {
+                  state.readingPin_ = false;
+                  if (turn != state.pinTurn_) state.nextMove_.reset();
+                  if (turn == state.pinTurn_ && colour) pinMoved(state, move, *colour);
+                  // Of the places that a drag passed meanwhile only the last one counts.
+                  if (state.nextMove_) readNextMove(state);
+              });
 }
 
-void AppState::pinMoved(const PinMove& move, const WashColor& colour) {
-    auto source = imageSource.value();
+void AppState::Extracting::pinMoved(AppState& state, const PinMove& move, const WashColor& colour) {
+    auto source = state.imageSource.value();
     if (move.pin >= source.found.size()) return;
     auto& pin = source.found[move.pin];
     pin.point = move.to;
     pin.color = colour;
     pin.isOwn = true;
     const UpdateGroup group;
-    if (const auto at = swatchOf(pin)) replaceInPalette(*at, colour, "pin");
-    imageSource = std::move(source);
+    if (const auto at = swatchOf(state, pin)) state.replaceInPalette(*at, colour, "pin");
+    state.imageSource = std::move(source);
 }
 
 void AppState::removePin(std::size_t pin) {
@@ -312,7 +328,7 @@ void AppState::removePin(std::size_t pin) {
     if (pin >= source.found.size()) return;
     ++pinTurn_;
     const UpdateGroup group;
-    if (const auto at = swatchOf(source.found[pin])) removeSwatch(*at);
+    if (const auto at = Extracting::swatchOf(*this, source.found[pin])) removeSwatch(*at);
     source.found.erase(source.found.begin() + static_cast<std::ptrdiff_t>(pin));
     imageSource = std::move(source);
 }

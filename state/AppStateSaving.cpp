@@ -15,14 +15,34 @@ namespace tintra {
 
 using namespace SaveTexts;
 
-/// A palette on its way to its file.
 struct AppState::Saving {
-    std::filesystem::path to;
-    bool attaches = false;     ///< it becomes the window's file
-    std::uint64_t version = 0; ///< of the swatches that are written
-    std::uint64_t turn = 0;    ///< of the palette that was shown
-    std::optional<PaletteAttachment> before;
-    Done done;
+    /// A palette on its way to its file.
+    struct Job {
+        std::filesystem::path to;
+        bool attaches = false;     ///< it becomes the window's file
+        std::uint64_t version = 0; ///< of the swatches that are written
+        std::uint64_t turn = 0;    ///< of the palette that was shown
+        std::optional<PaletteAttachment> before;
+        Done done;
+    };
+
+    /// The words for a home in the question about unsaved changes.
+    static std::string homeText(const AppState& state);
+    static std::vector<std::string> translucentNames(const AppState& state);
+    static bool losesAlpha(const AppState& state, ExportFormat format);
+    static bool sourceMoved(const AppState& state, const std::filesystem::path& file);
+    static void askWhereToSave(AppState& state, ExportFormat proposed, Done done);
+    static void saveBackAs(AppState& state, const std::filesystem::path& to, ExportFormat format,
+                           Done done);
+    static void askAboutAlpha(AppState& state, const std::filesystem::path& to, ExportFormat format,
+                              Done done);
+    /// Into the colour picker, as the source cannot be written; `said`: the notice.
+    static void saveInsteadOf(AppState& state, const std::string& source, const std::string& said,
+                              Done done);
+    /// What a save that is under way delays.
+    static void afterSaves(AppState& state, std::function<void()> then);
+    static void saveNext(AppState& state);
+    static void saved(AppState& state, const Job& job, const std::optional<FileError>& error);
 };
 
 namespace {
@@ -89,12 +109,12 @@ AppState::Home AppState::home() const {
     return isList ? Home::colourPicker : Home::file;
 }
 
-std::string AppState::homeText() const {
-    switch (home()) {
+std::string AppState::Saving::homeText(const AppState& state) {
+    switch (state.home()) {
     case Home::nowhere:
         return "a file";
     case Home::file:
-        return attachment_.value()->url.filename().string();
+        return state.attachment_.value()->url.filename().string();
     case Home::colourPicker:
     case Home::unwritable:
     case Home::readOnly:
@@ -103,15 +123,15 @@ std::string AppState::homeText() const {
     return std::string(kColourPicker);
 }
 
-std::vector<std::string> AppState::translucentNames() const {
-    std::vector<std::string> names;
-    for (std::size_t i = 0; i < swatches().size(); ++i)
-        if (!swatches()[i].color.isOpaque()) names.push_back(swatchName(i));
-    return names;
+std::vector<std::string> AppState::Saving::translucentNames(const AppState& state) {
+    std::vector<std::string> told;
+    for (std::size_t i = 0; i < state.swatches().size(); ++i)
+        if (!state.swatches()[i].color.isOpaque()) told.push_back(state.swatchName(i));
+    return told;
 }
 
-bool AppState::losesAlpha(ExportFormat format) const {
-    return !holdsAlpha(format) && std::ranges::any_of(swatches(), [](const auto& swatch) {
+bool AppState::Saving::losesAlpha(const AppState& state, ExportFormat format) {
+    return !holdsAlpha(format) && std::ranges::any_of(state.swatches(), [](const auto& swatch) {
         return !swatch.color.isOpaque();
     });
 }
@@ -128,11 +148,12 @@ void AppState::confirmDiscardingChanges(std::string_view before,
     const auto format = home() == Home::file
                             ? exportFormatForExtension(extensionOf(*currentPaletteURL()))
                             : std::nullopt;
-    const bool opaque = format && losesAlpha(*format);
-    Question question{saveChangesTitle(currentPaletteName()),
-                      opaque ? alphaCountText(homeText(), translucentNames().size())
-                             : discardText(swatches().size(), homeText(), before),
-                      buttons({kSave, kDiscard, kCancel}), place()};
+    const bool opaque = format && Saving::losesAlpha(*this, *format);
+    Question question{
+        saveChangesTitle(currentPaletteName()),
+        opaque ? alphaCountText(Saving::homeText(*this), Saving::translucentNames(*this).size())
+               : discardText(swatches().size(), Saving::homeText(*this), before),
+        buttons({kSave, kDiscard, kCancel}), place()};
     context_.services.dialogues.ask(
         std::move(question),
         whileAlive(alive_, [this, opaque, action = std::string(before),
@@ -165,50 +186,52 @@ void AppState::savePalette(Done done) {
     const auto last = context_.preferences.lastExport.value();
     switch (home()) {
     case Home::nowhere:
-        askWhereToSave(isReadable(last) ? last : ExportFormat::ase, std::move(done));
+        Saving::askWhereToSave(*this, isReadable(last) ? last : ExportFormat::ase, std::move(done));
         return;
     case Home::file:
     case Home::colourPicker:
         saveBack(*currentPaletteURL(), std::move(done));
         return;
     case Home::unwritable:
-        saveInsteadOf(name, noSuchFormatText(name), std::move(done));
+        Saving::saveInsteadOf(*this, name, noSuchFormatText(name), std::move(done));
         return;
     case Home::readOnly:
-        saveInsteadOf(name, neverWrittenText(name), std::move(done));
+        Saving::saveInsteadOf(*this, name, neverWrittenText(name), std::move(done));
         return;
     }
 }
 
-void AppState::saveInsteadOf(const std::string& source, const std::string& said, Done done) {
-    saveInPickerAsking(
+void AppState::Saving::saveInsteadOf(AppState& state, const std::string& source,
+                                     const std::string& said, Done done) {
+    state.saveInPickerAsking(
         source, [said](std::string_view) { return said; }, std::move(done));
 }
 
 void AppState::saveAs(Done done) {
-    askWhereToSave(context_.preferences.lastExport.value(), std::move(done));
+    Saving::askWhereToSave(*this, context_.preferences.lastExport.value(), std::move(done));
 }
 
-void AppState::askWhereToSave(ExportFormat proposed, Done done) {
-    SaveQuestion question{title(), std::string(rawValue(proposed)), {}, place()};
-    const auto& attached = attachment_.value();
+void AppState::Saving::askWhereToSave(AppState& state, ExportFormat proposed, Done done) {
+    SaveQuestion question{state.title(), std::string(rawValue(proposed)), {}, state.place()};
+    const auto& attached = state.attachment_.value();
     if (attached && !attached->url.empty()) question.folder = attached->url.parent_path();
-    context_.services.dialogues.askWhereToSave(
+    state.context_.services.dialogues.askWhereToSave(
         std::move(question),
-        whileAlive(alive_, [this, proposed, done = std::move(done)](
-                               const std::optional<SaveAnswer>& answer) mutable {
+        whileAlive(state.alive_, [&state, proposed, done = std::move(done)](
+                                     const std::optional<SaveAnswer>& answer) mutable {
             if (!answer) {
-                toast(std::string(kCancelled), kBriefly);
+                state.toast(std::string(kCancelled), kBriefly);
                 tell(done, false);
                 return;
             }
-            saveAs(answer->file, exportFormat(answer->format).value_or(proposed), std::move(done));
+            state.saveAs(answer->file, exportFormat(answer->format).value_or(proposed),
+                         std::move(done));
         }));
 }
 
 void AppState::saveAs(const std::filesystem::path& to, ExportFormat format, Done done) {
     // Whoever chose the format has been told what it does not hold.
-    if (losesAlpha(format)) opaqueIn_.insert(to);
+    if (Saving::losesAlpha(*this, format)) opaqueIn_.insert(to);
     saveWithoutAsking(to, format,
                       whileAlive(alive_, [this, to, format, done = std::move(done)](bool saved) {
                           if (saved) {
@@ -220,42 +243,43 @@ void AppState::saveAs(const std::filesystem::path& to, ExportFormat format, Done
 }
 
 void AppState::saveBack(const std::filesystem::path& to, Done done) {
-    afterSaves([this, to, done = std::move(done)] {
+    Saving::afterSaves(*this, [this, to, done = std::move(done)] {
         const auto format = exportFormatForExtension(extensionOf(to));
         const auto name = to.stem().string();
         if (!format || !isReadable(to, *format)) {
-            saveInsteadOf(name, noSuchFormatText(name), done);
+            Saving::saveInsteadOf(*this, name, noSuchFormatText(name), done);
             return;
         }
         if (!isStylesheet(to) || ownStylesheets_.contains(to)) {
-            saveBackAs(to, *format, done);
+            Saving::saveBackAs(*this, to, *format, done);
             return;
         }
         inBackground(
             context_.services, alive_, [to, format] { return holdsPaletteAlone(to, *format); },
             [this, to, format, name, done](bool alone) {
                 if (alone)
-                    saveBackAs(to, *format, done);
+                    Saving::saveBackAs(*this, to, *format, done);
                 else
-                    saveInsteadOf(name, noSuchFormatText(name), done);
+                    Saving::saveInsteadOf(*this, name, noSuchFormatText(name), done);
             });
     });
 }
 
-bool AppState::sourceMoved(const std::filesystem::path& file) const {
-    const auto now = context_.windows.version(file);
-    return now.stamp && now != loadedVersion_;
+bool AppState::Saving::sourceMoved(const AppState& state, const std::filesystem::path& file) {
+    const auto now = state.context_.windows.version(file);
+    return now.stamp && now != state.loadedVersion_;
 }
 
-void AppState::saveBackAs(const std::filesystem::path& to, ExportFormat format, Done done) {
-    if (!sourceMoved(to)) {
-        askAboutAlpha(to, format, std::move(done));
+void AppState::Saving::saveBackAs(AppState& state, const std::filesystem::path& to,
+                                  ExportFormat format, Done done) {
+    if (!sourceMoved(state, to)) {
+        askAboutAlpha(state, to, format, std::move(done));
         return;
     }
-    askAboutMovedSource(
-        [this, to, format, done](bool replace) {
+    state.askAboutMovedSource(
+        [&state, to, format, done](bool replace) {
             if (replace)
-                askAboutAlpha(to, format, done);
+                askAboutAlpha(state, to, format, done);
             else
                 tell(done, false);
         },
@@ -274,26 +298,27 @@ void AppState::askAboutMovedSource(std::function<void(bool replace)> answered, D
             }
             const auto file = currentPaletteURL();
             const auto format = file ? exportFormatForExtension(extensionOf(*file)) : std::nullopt;
-            askWhereToSave(format.value_or(ExportFormat::ase), done);
+            Saving::askWhereToSave(*this, format.value_or(ExportFormat::ase), done);
         }));
 }
 
-void AppState::askAboutAlpha(const std::filesystem::path& to, ExportFormat format, Done done) {
-    if (!losesAlpha(format) || opaqueIn_.contains(to)) {
-        saveWithoutAsking(to, format, std::move(done));
+void AppState::Saving::askAboutAlpha(AppState& state, const std::filesystem::path& to,
+                                     ExportFormat format, Done done) {
+    if (!losesAlpha(state, format) || state.opaqueIn_.contains(to)) {
+        state.saveWithoutAsking(to, format, std::move(done));
         return;
     }
     Question question{saveChangesTitle(to.stem().string()),
-                      alphaNamesText(extensionOf(to), translucentNames()),
-                      buttons({kSave, kSaveAs, kCancel}), place()};
-    context_.services.dialogues.ask(
+                      alphaNamesText(extensionOf(to), translucentNames(state)),
+                      buttons({kSave, kSaveAs, kCancel}), state.place()};
+    state.context_.services.dialogues.ask(
         std::move(question),
-        whileAlive(alive_, [this, to, format, done = std::move(done)](std::size_t button) {
+        whileAlive(state.alive_, [&state, to, format, done = std::move(done)](std::size_t button) {
             if (button == 0) {
-                opaqueIn_.insert(to);
-                saveWithoutAsking(to, format, done);
+                state.opaqueIn_.insert(to);
+                state.saveWithoutAsking(to, format, done);
             } else if (button == 1) {
-                askWhereToSave(ExportFormat::clr, done);
+                askWhereToSave(state, ExportFormat::clr, done);
             } else {
                 tell(done, false);
             }
@@ -302,8 +327,9 @@ void AppState::askAboutAlpha(const std::filesystem::path& to, ExportFormat forma
 
 void AppState::saveWithoutAsking(const std::filesystem::path& to, ExportFormat format, Done done) {
     if (saving_) {
-        afterSaves(
-            [this, to, format, done = std::move(done)] { saveWithoutAsking(to, format, done); });
+        Saving::afterSaves(*this, [this, to, format, done = std::move(done)] {
+            saveWithoutAsking(to, format, done);
+        });
         return;
     }
     const auto name = to.stem().string();
@@ -327,49 +353,52 @@ void AppState::saveWithoutAsking(const std::filesystem::path& to, ExportFormat f
             if (!error) writeTwin(to, twin);
             return error;
         },
-        [this, saving = Saving{to, isReadable(to, format), paletteVersion_.value(), contentTurn_,
-                               attachment_.value(), std::move(done)}](
-            const std::optional<FileError>& error) { saved(saving, error); });
+        [this, job = Saving::Job{to, isReadable(to, format), paletteVersion_.value(), contentTurn_,
+                                 attachment_.value(), std::move(done)}](
+            const std::optional<FileError>& error) { Saving::saved(*this, job, error); });
 }
 
-void AppState::afterSaves(std::function<void()> then) {
-    if (saving_)
-        afterSaves_.push_back(std::move(then));
+void AppState::Saving::afterSaves(AppState& state, std::function<void()> then) {
+    if (state.saving_)
+        state.afterSaves_.push_back(std::move(then));
     else
         then();
 }
 
-void AppState::saveNext() {
-    while (!saving_ && !afterSaves_.empty()) {
-        const auto next = std::move(afterSaves_.front());
-        afterSaves_.pop_front();
+void AppState::Saving::saveNext(AppState& state) {
+    while (!state.saving_ && !state.afterSaves_.empty()) {
+        const auto next = std::move(state.afterSaves_.front());
+        state.afterSaves_.pop_front();
         // It may ask and save, and whoever waits for it may close the window.
-        const std::weak_ptr alive = alive_;
+        const std::weak_ptr alive = state.alive_;
         next();
         if (alive.expired()) return;
     }
 }
 
-void AppState::saved(const Saving& saving, const std::optional<FileError>& error) {
-    saving_ = false;
-    if (!afterSaves_.empty())
-        context_.services.mainLoop.post(whileAlive(alive_, [this] { saveNext(); }));
-    const auto file = saving.to.filename().string();
+void AppState::Saving::saved(AppState& state, const Job& job,
+                             const std::optional<FileError>& error) {
+    state.saving_ = false;
+    if (!state.afterSaves_.empty())
+        state.context_.services.mainLoop.post(
+            whileAlive(state.alive_, [&state] { saveNext(state); }));
+    const auto file = job.to.filename().string();
     if (error) {
-        toast(couldNotText(file, "saved", error->why), kForCounts);
-    } else if (!saving.attaches) {
-        toast(exportedText(file), kBriefly);
-    } else if (saving.turn != contentTurn_ || saving.before != attachment_.value()) {
+        state.toast(couldNotText(file, "saved", error->why), kForCounts);
+    } else if (!job.attaches) {
+        state.toast(exportedText(file), kBriefly);
+    } else if (job.turn != state.contentTurn_ || job.before != state.attachment_.value()) {
         // The window shows another palette by now.
-        static_cast<void>(context_.windows.saved(saving.to));
-        toast(savedText(file), kBriefly);
+        static_cast<void>(state.context_.windows.saved(job.to));
+        state.toast(savedText(file), kBriefly);
     } else {
-        keep({saving.to.stem().string(), saving.to}, saving.version);
-        toast(home() == Home::colourPicker ? savedToPickerText(title()) : savedText(file),
-              kBriefly);
+        state.keep({job.to.stem().string(), job.to}, job.version);
+        state.toast(state.home() == Home::colourPicker ? savedToPickerText(state.title())
+                                                       : savedText(file),
+                    kBriefly);
     }
     // Whoever waits may close the window.
-    tell(saving.done, !error);
+    tell(job.done, !error);
 }
 
 void AppState::keep(PaletteAttachment in, std::uint64_t version) {
