@@ -159,6 +159,12 @@ void AppState::Loading::show(AppState& state, LoadedPalette palette) {
     ++state.loadTurn_;
     ++state.contentTurn_;
     if (!state.swatches().empty() || state.attachment_.value()) state.checkpointPalette();
+    if (palette.swatches.size() > kPaletteCapacity) {
+        // A window that shows a part of a file must not write the part back.
+        palette.swatches.resize(kPaletteCapacity);
+        palette.url.reset();
+        state.toast(paletteFullText(kPaletteCapacity), kForCounts);
+    }
     std::vector<PaletteSwatch> fresh;
     fresh.reserve(palette.swatches.size());
     for (auto& swatch : palette.swatches)
