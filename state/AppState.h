@@ -262,7 +262,7 @@ public:
     /// Sends the colour, or takes it off the board.
     void toggleContrast(const WashColor& colour, std::optional<std::string> name, ToastPlace where);
     void sortContrastByLightness(bool lightestFirst, ToastPlace where);
-    void copy(const WashColor& colour, std::optional<std::string> name,
+    void copy(const WashColor& colour, const std::optional<std::string>& name,
               std::optional<ColorFormat> as = {});
     void copyAll(std::span<const WashColor> colours,
                  std::span<const std::optional<std::string>> names);

@@ -175,7 +175,7 @@ void AppState::sortContrastByLightness(bool lightestFirst, ToastPlace where) {
 
 // The clipboard
 
-void AppState::copy(const WashColor& colour, std::optional<std::string> name,
+void AppState::copy(const WashColor& colour, const std::optional<std::string>& name,
                     std::optional<ColorFormat> as) {
     auto& preferences = context_.preferences;
     context_.services.clipboard.set(copiedColour(colour, name, as.value_or(preferences.format),
