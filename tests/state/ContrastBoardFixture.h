@@ -10,7 +10,7 @@
 namespace tintra {
 
 /// Palettes of which only the colours matter.
-class FakePalettes final : public OpenPalettes {
+class HeldColours final : public OpenPalettes {
 public:
     std::optional<Sighting> swatch(const Uuid&, const Uuid&) const override { return {}; }
     Absence absence(const Uuid&) const override { return Absence::away; }
@@ -36,7 +36,7 @@ protected:
     }
 
     FakeDesktop desktop{std::filesystem::path()};
-    FakePalettes palettes;
+    HeldColours palettes;
     ContrastBoard board{desktop.services, palettes};
 };
 
