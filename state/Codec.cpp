@@ -13,6 +13,25 @@ double finite(double value) {
     return std::isfinite(value) ? value : 0;
 }
 
+constexpr int kDeepest = 64;
+
+bool nestsTooDeep(std::string_view text) {
+    int depth = 0;
+    bool isQuoted = false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if (c == '"') isQuoted = !isQuoted;
+        if (isQuoted) {
+            if (c == '\\') ++i;
+            continue;
+        }
+        if (c == '[' || c == '{') ++depth;
+        if (c == ']' || c == '}') --depth;
+        if (depth > kDeepest) return true;
+    }
+    return false;
+}
+
 constexpr std::tuple kOptionFields{
     Field{"decimals", &FormatOptions::decimals, Absent::standsIn},
     Field{"useFractions", &FormatOptions::useFractions, Absent::standsIn},
@@ -34,6 +53,7 @@ constexpr std::tuple kSizeFields{
 } // namespace
 
 std::optional<Json> parsedJson(std::string_view text) {
+    if (nestsTooDeep(text)) return std::nullopt;
     auto document = Json::parse(text, nullptr, false);
     if (document.is_discarded()) return std::nullopt;
     return document;

@@ -29,7 +29,8 @@ namespace tintra {
 
 using Json = nlohmann::ordered_json;
 
-/// The document of a text; nothing when it is no JSON.
+/// The document of a text; nothing when it is no JSON, and for one that nests deeper than any
+/// record does: copying or writing it could exhaust the stack.
 std::optional<Json> parsedJson(std::string_view text);
 /// A document as text on one line; bytes that are no UTF-8 become replacement characters.
 std::string jsonText(const Json& document);

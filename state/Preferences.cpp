@@ -5,7 +5,7 @@
 #include "platform/Services.h"
 #include "state/PreferencesCodec.h"
 
-#include <algorithm>
+#include <iterator>
 #include <tuple>
 
 namespace tintra {
@@ -100,6 +100,23 @@ void read(const Json& document, Preferences& preferences,
     if (found != document.end()) preferences.*setting.member = Codec<T>::decode(*found);
 }
 
+/// The colours without repeats, as many as are kept.
+std::vector<WashColor> bounded(const std::vector<WashColor>& recents) {
+    std::vector<WashColor> kept;
+    std::set<std::string> identities;
+    for (const auto& color : recents) {
+        if (kept.size() == Preferences::kRecents) break;
+        if (identities.insert(color.identity()).second) kept.push_back(color);
+    }
+    return kept;
+}
+
+std::map<std::string, PaletteDisplay> bounded(std::map<std::string, PaletteDisplay> views) {
+    while (views.size() > Preferences::kPaletteViews)
+        views.erase(std::prev(views.end()));
+    return views;
+}
+
 /// #DEDEDE.
 constexpr double kBackdropGrey = 222.0 / 255;
 
@@ -127,11 +144,8 @@ Preferences::~Preferences() = default;
 
 void Preferences::remember(const WashColor& color) {
     auto list = recents.value();
-    const auto identity = color.identity();
-    std::erase_if(list, [&](const WashColor& held) { return held.identity() == identity; });
     list.insert(list.begin(), color);
-    if (list.size() > kRecents) list.resize(kRecents);
-    recents = std::move(list);
+    recents = bounded(list);
 }
 
 void Preferences::restore() {
@@ -146,11 +160,8 @@ void Preferences::restore() {
     restoring_ = true;
     subscriptions_->document = *std::move(document);
     forSettings([&](const auto& setting) { read(subscriptions_->document, *this, setting); });
-    if (recents.value().size() > kRecents) {
-        auto list = recents.value();
-        list.resize(kRecents);
-        recents = std::move(list);
-    }
+    recents = bounded(recents.value());
+    paletteViews = bounded(paletteViews.value());
     restoring_ = false;
 }
 

@@ -33,6 +33,8 @@ public:
     Preferences& operator=(const Preferences&) = delete;
 
     static constexpr std::size_t kRecents = 24;
+    /// The most palettes whose display `restore` takes over.
+    static constexpr std::size_t kPaletteViews = 1000;
 
     // The settings, in the order of the document. Each change is written at once.
 
@@ -60,7 +62,9 @@ public:
     QProperty<std::vector<PaletteLocation>> paletteLocations;
     QProperty<bool> includeSystemPalettes{false};
     QProperty<bool> rescanOnLaunch{true};
-    /// By the palette's path, or the window's identifier while it is untitled.
+    /// By the palette's path, or the window's identifier while it is untitled. Of too many,
+    /// `restore` keeps the first by key: paths stand before identifiers, which may name windows
+    /// long closed.
     QProperty<std::map<std::string, PaletteDisplay>> paletteViews;
     QProperty<std::set<std::string>> libraryExpanded, libraryCollapsed;
     QProperty<bool> libraryTiles{false};

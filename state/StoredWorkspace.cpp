@@ -4,6 +4,7 @@
 #include "state/Record.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace tintra {
 namespace {
@@ -34,7 +35,19 @@ constexpr std::tuple kFields{
     Field{"swatchIDs", &StoredWorkspace::swatchIDs},
 };
 
-/// Names in step with the colours, from a list or from a map by position or by swatch.
+/// The place of a swatch that a key names by position or by identifier.
+std::optional<std::size_t> placeOf(const std::string& key, std::size_t count,
+                                   const std::optional<std::vector<Uuid>>& ids) {
+    std::size_t at = count;
+    const auto* const end = key.data() + key.size();
+    if (const auto id = Uuid::fromText(key); id && ids)
+        at = static_cast<std::size_t>(std::find(ids->begin(), ids->end(), *id) - ids->begin());
+    else if (std::from_chars(key.data(), end, at).ptr != end)
+        return std::nullopt;
+    return at < count ? std::optional(at) : std::nullopt;
+}
+
+/// Names in step with the colours, from a list or a map.
 std::vector<std::string> namesIn(const Json& json, std::size_t count,
                                  const std::optional<std::vector<Uuid>>& ids) {
     std::vector<std::string> names(count);
@@ -42,11 +55,9 @@ std::vector<std::string> namesIn(const Json& json, std::size_t count,
         for (std::size_t i = 0; i < std::min(count, json.size()); ++i)
             names[i] = Codec<std::string>::decode(json[i]).value_or("");
     if (!json.is_object()) return names;
-    for (std::size_t i = 0; i < count; ++i) {
-        auto found = json.find(std::to_string(i));
-        if (found == json.end() && ids) found = json.find((*ids)[i].text());
-        if (found != json.end()) names[i] = Codec<std::string>::decode(*found).value_or("");
-    }
+    for (const auto& [key, name] : json.items())
+        if (const auto at = placeOf(key, count, ids))
+            names[*at] = Codec<std::string>::decode(name).value_or("");
     return names;
 }
 
@@ -67,8 +78,12 @@ void limit(StoredWorkspace& workspace) {
 std::optional<StoredWorkspace> workspaceIn(const Json& json) {
     auto workspace = decoded(json, kFields);
     if (!workspace) return std::nullopt;
-    const auto palette = json.find("customPalette");
-    if (palette->size() != workspace->customPalette.size()) return std::nullopt;
+    const auto isWhole = [&](const char* key, std::size_t count) {
+        return json.at(key).size() == count;
+    };
+    if (!isWhole("customPalette", workspace->customPalette.size())) return std::nullopt;
+    if (workspace->swatchIDs && !isWhole("swatchIDs", workspace->swatchIDs->size()))
+        workspace->swatchIDs.reset();
     limit(*workspace);
     const auto names = json.find("customPaletteNames");
     workspace->customPaletteNames = namesIn(names == json.end() ? Json() : *names,

@@ -37,8 +37,9 @@ struct StoredWorkspace {
     bool operator==(const StoredWorkspace&) const = default;
 };
 
-/// The record as text, and a record read; nothing for a text that is no such record. A list of
-/// names that is a map from position to name is read too.
+/// The record as text, and a record read; nothing for a text that is no such record, nor for one
+/// with something else than a colour among its swatches. Names that are a map, from position or
+/// from the swatch's identifier, are read too.
 std::string encodedWorkspace(const StoredWorkspace& workspace);
 std::optional<StoredWorkspace> decodedWorkspace(std::string_view text);
 /// A list of records; nothing when it is no list. Elements that are no records are left out.
