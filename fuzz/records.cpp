@@ -12,36 +12,46 @@ using namespace tintra;
 
 namespace {
 
-/// What decodes must be written so that it decodes to the same.
-template <class Decode, class Encode>
-void checkRecord(std::string_view text, Decode decode, Encode encode) {
+/// A record that is read must be written so that the same is read again.
+template <auto decode, auto encode>
+void readAndWrite(std::string_view text) {
     const auto record = decode(text);
     if (record && decode(encode(*record)) != record) std::abort();
 }
 
-void checkPreferences(std::string_view text) {
-    static FakeDesktop desktop("unused");
-    desktop.defaults.records = {{"TintraPreferences", std::string(text)}};
-    Preferences first(desktop.services);
-    first.restore();
-    first.persist();
-    const auto written = desktop.defaults.records["TintraPreferences"];
-    Preferences second(desktop.services);
-    second.restore();
-    second.persist();
-    if (desktop.defaults.records["TintraPreferences"] != written) std::abort();
+constexpr std::string_view kPreferences = "TintraPreferences";
+
+/// The document as another run with it would write it; nothing when it is set aside.
+std::optional<std::string> rewritten(std::string_view text) {
+    FakeDesktop desktop{{}};
+    desktop.defaults.records.emplace(kPreferences, text);
+    Preferences preferences(desktop.services);
+    preferences.restore();
+    if (desktop.defaults.writes.contains(std::string(kPreferences))) std::abort();
+    if (!desktop.defaults.asideKeys.empty()) return std::nullopt;
+    preferences.persist();
+    return desktop.defaults.data(kPreferences);
 }
+
+void readAndWritePreferences(std::string_view text) {
+    const auto once = rewritten(text);
+    if (once && rewritten(*once) != once) std::abort();
+}
+
+constexpr void (*kRecords[])(std::string_view) = {
+    readAndWritePreferences,
+    readAndWrite<decodedWorkspace, encodedWorkspace>,
+    readAndWrite<decodedWorkspaces, encodedWorkspaces>,
+    readAndWrite<decodedLaunchState, encodedLaunchState>,
+    readAndWrite<decodedContrast, encodedContrast>,
+    readAndWrite<decodedBench, encodedBench>,
+};
 
 } // namespace
 
-/// Reads any bytes as every record that the program keeps.
+/// Reads the bytes as each of the records that outlive a run.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string_view text(reinterpret_cast<const char*>(data), size);
-    checkRecord(text, decodedWorkspace, encodedWorkspace);
-    checkRecord(text, decodedWorkspaces, encodedWorkspaces);
-    checkRecord(text, decodedLaunchState, encodedLaunchState);
-    checkRecord(text, decodedBench, encodedBench);
-    checkRecord(text, decodedContrast, encodedContrast);
-    checkPreferences(text);
+    for (const auto& read : kRecords)
+        read({reinterpret_cast<const char*>(data), size});
     return 0;
 }
