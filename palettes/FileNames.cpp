@@ -23,7 +23,7 @@ std::string_view cut(std::string_view text, std::size_t most) {
 
 std::optional<std::string> whyUnfit(std::string_view name) {
     if (trimmed(name).empty()) return "A palette needs a name.";
-    if (name.find('/') != name.npos) return "A name cannot hold “/”.";
+    if (name.find('/') != std::string_view::npos) return "A name cannot hold “/”.";
     if (name.starts_with('.')) return "A name cannot begin with a full stop.";
     if (controlsToSpaces(name) != name) return "A name cannot hold control characters.";
     if (name.size() > kLongest) return "That name is too long.";

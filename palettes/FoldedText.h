@@ -15,7 +15,9 @@ public:
     const std::string& text() const { return text_; }
     bool isEmpty() const { return text_.empty(); }
     /// Whether the words stand somewhere in it.
-    bool holds(const FoldedText& words) const { return text_.find(words.text_) != text_.npos; }
+    bool holds(const FoldedText& words) const {
+        return text_.find(words.text_) != std::string::npos;
+    }
 
     bool operator==(const FoldedText&) const = default;
 

@@ -13,6 +13,7 @@ namespace {
 std::vector<std::string> missingKeys(const std::vector<PaletteEntry>& entries) {
     if (std::ranges::none_of(entries, [](const auto& e) { return e.sortKey.empty(); })) return {};
     std::vector<std::string> keys;
+    keys.reserve(entries.size());
     for (const auto& entry : entries)
         keys.push_back(sortKey(entry.name));
     return keys;
@@ -34,7 +35,7 @@ std::vector<std::size_t> sortedPositions(const std::vector<PaletteEntry>& entrie
     std::iota(positions.begin(), positions.end(), std::size_t{0});
     std::ranges::stable_sort(positions, [&](std::size_t a, std::size_t b) {
         const auto first = order.ascending ? compared(a, b) : compared(b, a);
-        return first == 0 ? byName(a, b) < 0 : first < 0;
+        return std::is_lt(std::is_eq(first) ? byName(a, b) : first);
     });
     return positions;
 }

@@ -50,9 +50,11 @@ bool isCall(std::string_view text) {
 /// "255, 128, 0" or "hsl 30 100% 50%": numbers, maybe behind the name of their model.
 bool isNumbers(std::string_view text) {
     for (const std::string_view model : {"rgba", "rgb", "hsla", "hsl", "oklch"})
-        if (text.starts_with(model) && text.find_first_of(kLetters, model.size()) == text.npos)
+        if (text.starts_with(model) &&
+            text.find_first_of(kLetters, model.size()) == std::string_view::npos)
             return true;
-    return text.find_first_of(kDigits) != text.npos && consistsOf(text, "0123456789.,;/% \t-");
+    return text.find_first_of(kDigits) != std::string_view::npos &&
+           consistsOf(text, "0123456789.,;/% \t-");
 }
 
 } // namespace

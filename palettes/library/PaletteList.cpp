@@ -42,6 +42,7 @@ void PaletteList::start() {
 }
 
 void PaletteList::setSources(const std::vector<PaletteSource>& sources) {
+    if (std::ranges::equal(sources, parts_, {}, {}, &Part::source)) return;
     auto parts = std::exchange(parts_, {});
     auto entries = std::exchange(entries_, {});
     positions_.reset();
@@ -99,7 +100,7 @@ void PaletteList::scan(Part& part) {
 }
 
 /// A scan that is told of is the one of its part: those before were cancelled.
-SourceScan::Told PaletteList::toldBy(std::shared_ptr<SourceScan*> scan) {
+SourceScan::Told PaletteList::toldBy(const std::shared_ptr<SourceScan*>& scan) {
     const auto withPart = [weak = weak_from_this(), scan](auto&& act) {
         const auto self = weak.lock();
         auto* const part = self ? self->partOf(*scan) : nullptr;

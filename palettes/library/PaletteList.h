@@ -64,7 +64,7 @@ private:
     };
 
     void scan(Part& part);
-    SourceScan::Told toldBy(std::shared_ptr<SourceScan*> scan);
+    SourceScan::Told toldBy(const std::shared_ptr<SourceScan*>& scan);
     Part* partOf(const SourceScan* scan);
     std::size_t beginOf(const Part& part) const;
     void replace(Part& part, std::vector<PaletteEntry> fresh);
