@@ -62,7 +62,7 @@ std::optional<std::string> AppState::currentPaletteName() const {
 
 std::optional<std::filesystem::path> AppState::currentPaletteURL() const {
     const auto& attached = attachment_.value();
-    return attached ? std::optional(attached->url) : std::nullopt;
+    return attached && !attached->url.empty() ? std::optional(attached->url) : std::nullopt;
 }
 
 std::string AppState::title() const {
