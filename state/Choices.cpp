@@ -12,6 +12,8 @@ struct Row {
     Case value;
     std::string_view raw;
 };
+template <class Case>
+Row(Case, std::string_view) -> Row<Case>;
 
 /// The rows of a list.
 template <class Case>

@@ -25,6 +25,8 @@ struct Setting<std::optional<T>> {
     std::string_view key;
     QProperty<std::optional<T>> Preferences::*member;
 };
+template <class T>
+Setting(std::string_view, QProperty<T> Preferences::*) -> Setting<T>;
 
 // clang-format off
 constexpr std::tuple kSettings{
