@@ -207,7 +207,7 @@ public:
     /// written back. `done` is told whether it was saved, also by the other saves.
     void savePalette(Done done = {});
     /// As a colour list of the system colour picker, to which the window is attached from then on.
-    void savePalette(std::string_view as, PaletteStore::Clash clash, Done done = {});
+    void savePalette(std::string_view as, PaletteStore::Clash clash, const Done& done = {});
     /// Asks where and in which format.
     void saveAs(Done done = {});
     /// A file that can be read again becomes the window's file; any other is an export, which

@@ -18,7 +18,7 @@ using Clash = PaletteStore::Clash;
 
 struct AppState::Installing {
     static void saveInPicker(AppState& state, std::string_view as, Clash clash, const Said& said,
-                             Done done);
+                             const Done& done);
     /// Asks when there is a list of that name. Nothing is answered for Cancel.
     static void askAboutClash(AppState& state, std::string_view name,
                               std::function<void(std::optional<Clash>)> answered);
@@ -45,12 +45,13 @@ void tell(const AppState::Done& done, bool saved) {
 
 } // namespace
 
-void AppState::savePalette(std::string_view as, Clash clash, Done done) {
-    Installing::saveInPicker(*this, as, clash, savedToPickerText, std::move(done));
+void AppState::savePalette(std::string_view as, Clash clash, const Done& done) {
+    Installing::saveInPicker(*this, as, clash, savedToPickerText, done);
 }
 
 void AppState::saveInPickerAsking(const std::string& as, Said said, Done done) {
-    Installing::withColorsFolder(*this, [this, as, said, done = std::move(done)](bool granted) {
+    Installing::withColorsFolder(*this, [this, as, said = std::move(said),
+                                         done = std::move(done)](bool granted) {
         if (!granted) {
             tell(done, false);
             return;
@@ -65,7 +66,7 @@ void AppState::saveInPickerAsking(const std::string& as, Said said, Done done) {
 }
 
 void AppState::Installing::saveInPicker(AppState& state, std::string_view as, Clash clash,
-                                        const Said& said, Done done) {
+                                        const Said& said, const Done& done) {
     if (state.swatches().empty()) {
         state.toast(std::string(kNoSwatches), kForCounts);
         tell(done, false);

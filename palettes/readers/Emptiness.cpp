@@ -19,9 +19,9 @@ bool isEmptyAse(ByteView data) {
 
 bool isEmptyAco(ByteView data) {
     ByteReader reader(data);
-    const auto version = reader.u16();
+    const auto version = reader.u16().value_or(0);
     const auto count = reader.u16();
-    return (version == 1 || version == 2) && count == 0;
+    return version >= 1 && version <= 2 && count == 0;
 }
 
 bool isEmptyList(ByteView data) {
