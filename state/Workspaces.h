@@ -123,7 +123,7 @@ private:
 
     void restorePrimary();
     void readExtras();
-    AppState& restored(Kind kind, StoredWorkspace record);
+    AppState& restored(Kind kind, const StoredWorkspace& record);
     /// Writes every record when the loop turns: a start itself writes nothing.
     void keepSoon();
     void captureRecords();

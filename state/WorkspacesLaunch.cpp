@@ -118,7 +118,7 @@ void Workspaces::restorePrimary() {
     const auto text = records_.read(kPrimaryKey);
     const auto stored = text ? decodedWorkspace(*text) : std::nullopt;
     // Identifiers that a record does not give are made now, and links are to find them again.
-    needsKeeping_ = needsKeeping_ || (stored && !(stored->id && stored->swatchIDs));
+    needsKeeping_ = stored && !(stored->id && stored->swatchIDs);
     open(Kind::primary, stored ? stored->id : std::nullopt).restore();
 }
 
@@ -135,26 +135,26 @@ void Workspaces::readExtras() {
     pendingSnapshots_.assign(stored->begin(), stored->end());
 }
 
-AppState& Workspaces::restored(Kind kind, StoredWorkspace record) {
-    needsKeeping_ = needsKeeping_ || !record.id || !record.swatchIDs;
+AppState& Workspaces::restored(Kind kind, const StoredWorkspace& record) {
     auto& state = open(kind, record.id);
     state.apply(record);
+    needsKeeping_ = needsKeeping_ || !record.swatchIDs || record.id != state.id();
     return state;
 }
 
 void Workspaces::restoreExtraWindows(const std::function<void(const Uuid&)>& openWindow) {
     readExtras();
     while (!pendingSnapshots_.empty()) {
-        auto record = std::move(pendingSnapshots_.front());
+        const auto record = std::move(pendingSnapshots_.front());
         pendingSnapshots_.pop_front();
-        openWindow(restored(Kind::extra, std::move(record)).id());
+        openWindow(restored(Kind::extra, record).id());
     }
 }
 
 void Workspaces::adoptFirstExtra() {
     readExtras();
     if (pendingSnapshots_.empty()) return;
-    restored(Kind::primary, std::move(pendingSnapshots_.front()));
+    restored(Kind::primary, pendingSnapshots_.front());
     pendingSnapshots_.pop_front();
     needsKeeping_ = true;
 }
