@@ -45,6 +45,14 @@ void work(ModelRun& run) {
     run.windows().isLibraryWindowOpen = true;
 }
 
+/// A run with that work, quit without saving it to files.
+void workAndQuit(Machine& machine) {
+    ModelRun run(machine);
+    work(run);
+    EXPECT_TRUE(run.quits({"Discard", "Discard", "Discard"}));
+    machine.notices();
+}
+
 TEST(Models, AResumedStartBringsEverythingBackAndWritesNothing) {
     Machine machine;
     std::vector<StoredWorkspace> before;
@@ -80,31 +88,10 @@ TEST(Models, AResumedStartBringsEverythingBackAndWritesNothing) {
     EXPECT_THAT(machine.desktop.log.lines, IsEmpty());
 }
 
-TEST(Models, ARunThatWasCutShortComesBackToo) {
-    Machine machine;
-    std::vector<StoredWorkspace> before;
-    {
-        ModelRun run(machine);
-        work(run);
-        run.pass();
-        before = stored(run);
-        run.primary().addToPalette(color("ABCDEF"), kNoDuplicates); // too late
-    }
-    ModelRun run(machine);
-    EXPECT_EQ(stored(run), before);
-    EXPECT_EQ(run.bench().benchWells().size(), 1U);
-    EXPECT_EQ(run.models.contrast().entries().size(), 2U);
-    EXPECT_TRUE(run.opening.library);
-}
-
 TEST(Models, ACleanStartKeepsTheOldRecordsUntilSomethingIsMade) {
     Machine machine;
-    {
-        ModelRun run(machine);
-        work(run);
-        run.models.preferences().opensWith = OpeningState::clean;
-        EXPECT_TRUE(run.quits({"Discard", "Discard", "Discard"}));
-    }
+    workAndQuit(machine);
+    machine.defaults().records["TintraPreferences"] = R"({"opensWith": "clean"})";
     const auto records = machine.defaults().records;
     {
         ModelRun run(machine);
@@ -169,12 +156,7 @@ TEST(Models, ADamagedRecordIsSetAsideAndDefaultsStandIn) {
         for (const auto* damage : {"", "{\"first\":", "[1, {}]", "7", "\xff\xfe"}) {
             SCOPED_TRACE(std::string(key) + ": " + damage);
             Machine machine;
-            {
-                ModelRun run(machine);
-                work(run);
-                run.quits({"Discard", "Discard", "Discard"});
-            }
-            machine.notices();
+            workAndQuit(machine);
             machine.defaults().records[key] = damage;
             ModelRun run(machine);
             EXPECT_THAT(machine.defaults().asideKeys, ElementsAre(key));
@@ -189,11 +171,7 @@ TEST(Models, ADamagedRecordIsSetAsideAndDefaultsStandIn) {
 
 TEST(Models, OfAListThatIsPartlyDamagedTheRestIsKept) {
     Machine machine;
-    {
-        ModelRun run(machine);
-        work(run);
-        run.quits({"Discard", "Discard", "Discard"});
-    }
+    workAndQuit(machine);
     auto& list = machine.defaults().records[std::string(Workspaces::kExtrasKey)];
     list.insert(1, "{\"steps\":false},");
     ModelRun run(machine);
@@ -201,6 +179,33 @@ TEST(Models, OfAListThatIsPartlyDamagedTheRestIsKept) {
     EXPECT_THAT(machine.defaults().asideKeys, ElementsAre(Workspaces::kExtrasKey));
     run.pass();
     EXPECT_EQ(decodedWorkspaces(*machine.defaults().data(Workspaces::kExtrasKey))->size(), 2U);
+}
+
+TEST(Models, SettingsReachWhatTheyGovern) {
+    Machine machine;
+    machine.folder.write("sea.gpl", "GIMP Palette\n#\n1 2 3\tDeep\n");
+    {
+        ModelRun run(machine);
+        auto& preferences = run.models.preferences();
+        preferences.rescanOnLaunch = false;
+        PaletteLocation desk;
+        desk.path = machine.folder.path();
+        preferences.paletteLocations = {desk};
+        preferences.swatchBackdrop = SwatchBackdrop::black;
+        run.pass();
+        EXPECT_EQ(run.models.store().available().size(), 1U);
+        EXPECT_EQ(preferences.scanGeneration.value(), run.models.store().scanGeneration());
+    }
+    ModelRun run(machine);
+    run.pass();
+    EXPECT_EQ((WashColor{1, 1, 1, 0.5}).overCheckerboard().hexNoHash(), "808080");
+    run.models.setThemeSurfaces([] { return ThemeSurfaces{{1, 0, 0}, {}}; });
+    run.models.preferences().swatchBackdrop = SwatchBackdrop::ground;
+    EXPECT_EQ((WashColor{0, 0, 0, 0}).overCheckerboard().hexNoHash(), "FF0000");
+    EXPECT_TRUE(run.models.store().available().empty()) << "nobody has looked yet";
+    run.windows().isLibraryWindowOpen = true;
+    run.pass();
+    EXPECT_EQ(run.models.store().available().size(), 1U);
 }
 
 TEST(Models, WorkThatCannotBeKeptIsSaidOnceUntilItCanBe) {

@@ -9,7 +9,6 @@ namespace tintra {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr auto kTwoSwatches = "GIMP Palette\nName: Garden\n#\n255 0 0\tRose\n0 128 0\tLeaf\n";
 
@@ -135,20 +134,6 @@ TEST(Workspaces, TwoWindowsWithOneFile) {
     run.save(other);
     EXPECT_FALSE(other.paletteIsDirty());
     EXPECT_THAT(hexes(one), ElementsAre("222222", "0000FF")) << "now the first takes it";
-}
-
-TEST(Workspaces, AFileThatAnotherProgramReplacedCountsAsMoved) {
-    Machine machine;
-    const auto file = machine.folder.write("garden.gpl", kTwoSwatches);
-    ModelRun run(machine);
-    run.open(run.primary(), file);
-    run.primary().replaceInPalette(0, color("111111"));
-    const std::string theirs = "GIMP Palette\n#\n1 2 3\tTheirs and longer\n";
-    machine.folder.write("garden.gpl", theirs);
-    run.answer({"Cancel"});
-    run.save(run.primary());
-    EXPECT_EQ(machine.desktop.dialogues.questions.size(), 1U);
-    EXPECT_EQ(machine.folder.content("garden.gpl"), theirs);
 }
 
 TEST(Workspaces, TheSharedModelsFindSwatches) {
