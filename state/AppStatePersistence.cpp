@@ -87,6 +87,7 @@ struct AppState::Persisted {
     static void storeAttachment(const AppState& state, Stored& to) {
         to.currentPaletteName = state.currentPaletteName();
         if (const auto file = state.currentPaletteURL()) to.currentPalettePath = file->string();
+        to.fileStamp = state.loadedVersion_.stamp;
     }
     static void applyAttachment(AppState& state, const Stored& from);
     static void storeSelection(const AppState& state, Stored& to) {
@@ -129,6 +130,8 @@ void AppState::Persisted::applyAttachment(AppState& state, const Stored& from) {
     state.loadedVersion_ = attached && !attached->url.empty()
                                ? state.context_.windows.version(attached->url)
                                : FileVersion{};
+    // What another program did to the file meanwhile is asked about when it is saved.
+    if (from.fileStamp && state.loadedVersion_.stamp) state.loadedVersion_.stamp = from.fileStamp;
     state.attachment_.setValue(std::move(attached));
 }
 

@@ -412,6 +412,7 @@ void AppState::keep(PaletteAttachment in, std::uint64_t version) {
 
 void AppState::recordSaved(const std::filesystem::path& file) {
     loadedVersion_ = context_.windows.saved(file);
+    persist(); // the record knows the file by its stamp
     context_.windows.offerSaved(*this);
 }
 

@@ -121,6 +121,23 @@ std::optional<WashColor> Codec<WashColor>::decode(const Json& json) {
     return WashColor{*r, *g, *b, *a};
 }
 
+// Whole numbers of 64 bits: doubles would round them.
+Json Codec<FileStamp>::encode(const FileStamp& value) {
+    return {{"modified", value.modified}, {"size", value.size}, {"inode", value.inode}};
+}
+
+std::optional<FileStamp> Codec<FileStamp>::decode(const Json& json) {
+    if (!json.is_object()) return std::nullopt;
+    const auto modified = json.find("modified"), size = json.find("size"),
+               inode = json.find("inode");
+    if (modified == json.end() || size == json.end() || inode == json.end()) return std::nullopt;
+    const bool areWhole =
+        modified->is_number_integer() && size->is_number_unsigned() && inode->is_number_unsigned();
+    if (!areWhole) return std::nullopt;
+    return FileStamp{modified->get<std::int64_t>(), size->get<std::uint64_t>(),
+                     inode->get<std::uint64_t>()};
+}
+
 Json Codec<FormatOptions>::encode(const FormatOptions& value) {
     return encoded(value, kOptionFields);
 }

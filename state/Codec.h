@@ -6,6 +6,7 @@
 #include "colour/FormatOptions.h"
 #include "colour/Harmony.h"
 #include "palettes/PaletteExport.h"
+#include "platform/FileStamp.h"
 #include "platform/Uuid.h"
 #include "state/Choices.h"
 #include "state/Geometry.h"
@@ -75,6 +76,11 @@ template <>
 struct Codec<WashColor> {
     static Json encode(const WashColor& value);
     static std::optional<WashColor> decode(const Json& json);
+};
+template <>
+struct Codec<FileStamp> {
+    static Json encode(const FileStamp& value);
+    static std::optional<FileStamp> decode(const Json& json);
 };
 template <>
 struct Codec<FormatOptions> {

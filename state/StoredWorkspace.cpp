@@ -33,6 +33,7 @@ constexpr std::tuple kFields{
     Field{"selectedSwatch", &StoredWorkspace::selectedSwatch},
     Field{"id", &StoredWorkspace::id},
     Field{"swatchIDs", &StoredWorkspace::swatchIDs},
+    Field{"fileStamp", &StoredWorkspace::fileStamp},
 };
 
 /// The place of a swatch that a key names by position or by identifier.

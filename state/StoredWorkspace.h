@@ -2,6 +2,7 @@
 
 #include "colour/Harmony.h"
 #include "colour/WashColor.h"
+#include "platform/FileStamp.h"
 #include "platform/Uuid.h"
 #include "state/Choices.h"
 #include "state/Geometry.h"
@@ -34,6 +35,9 @@ struct StoredWorkspace {
     // So that links to the swatches survive a restart.
     std::optional<Uuid> id;
     std::optional<std::vector<Uuid>> swatchIDs; ///< in step with the colours
+    /// Of the attached file when the window loaded or saved it, so that a change by another program
+    /// between two runs is noticed.
+    std::optional<FileStamp> fileStamp;
     bool operator==(const StoredWorkspace&) const = default;
 };
 

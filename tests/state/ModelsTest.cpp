@@ -269,5 +269,27 @@ TEST(Models, ABenchColumnFollowsItsSwatchThroughEverything) {
     EXPECT_EQ(run.bench().describeOrigin(column(run), {}), "from links");
 }
 
+TEST(Models, AFileThatChangedBetweenRunsIsAskedAbout) {
+    constexpr auto kReds = "GIMP Palette\nName: Reds\n#\n255 0 0 Red\n";
+    for (const bool changes : {false, true}) {
+        Machine machine;
+        const auto file = machine.folder.write("Reds.gpl", kReds);
+        {
+            ModelRun run(machine);
+            run.open(run.primary(), file);
+            run.save(run.primary()); // writes the same again: the record must know of that
+            EXPECT_TRUE(run.quits());
+        }
+        if (changes) machine.folder.write("Reds.gpl", std::string(kReds) + "250 0 0 Another\n");
+        ModelRun run(machine);
+        run.primary().addToPalette({0, 0, 1, 1}, AppState::Duplicates::refuse);
+        machine.desktop.dialogues.questions.clear();
+        run.answer({"Cancel"});
+        run.save(run.primary());
+        EXPECT_EQ(machine.desktop.dialogues.questions.size(), changes ? 1U : 0U);
+        EXPECT_EQ(machine.folder.content("Reds.gpl").find("Another") != std::string::npos, changes);
+    }
+}
+
 } // namespace
 } // namespace tintra

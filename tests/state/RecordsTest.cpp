@@ -107,6 +107,7 @@ StoredWorkspace fullWorkspace() {
     workspace.selectedSwatch = 1;
     workspace.id = id("1");
     workspace.swatchIDs = {id("2"), id("3")};
+    workspace.fileStamp = FileStamp{1'760'000'000'123'456'789, 1'234, 0xFFFF'FFFF'FFFF'FFFF};
     return workspace;
 }
 
