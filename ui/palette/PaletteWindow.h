@@ -1,0 +1,68 @@
+#pragma once
+
+#include "colour/WashColor.h"
+#include "state/AppState.h"
+#include "ui/Ui.h"
+
+#include <QWidget>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+
+class QMenuBar;
+
+namespace tintra {
+
+class NoticeBar;
+
+/// The window of one palette: tool bar, canvas, foot, and the panels that open beside them. Main
+/// loop.
+class PaletteWindow final : public QWidget {
+public:
+    PaletteWindow(Ui& ui, AppState& state);
+    ~PaletteWindow() override;
+
+    AppState& state() const { return state_; }
+    NoticeBar& notices() const;
+
+    /// What swatch actions act on: the selected swatch, or the colour of a harmony that has the
+    /// focus.
+    struct Target {
+        WashColor color;
+        std::optional<std::string> name;   ///< given by the user
+        std::optional<std::size_t> swatch; ///< its place in the palette; none for a harmony's
+    };
+    std::optional<Target> target() const;
+
+    /// Columns or tiles; kept for the palette.
+    PaletteDisplay display() const;
+    void setDisplay(PaletteDisplay display);
+
+    void showPasteSheet();
+    void showExport();
+    void beginRename();
+    void setPeeking(bool peeks);
+    void toggleMenuBar();
+    /// Gives the keyboard to the next (1) or the previous (-1) region.
+    void focusRegion(int by);
+    void showContextMenu();
+    /// Closes without asking; the model is gone after this.
+    void closeNow();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    struct Parts;
+
+    Ui& ui_;
+    AppState& state_;
+    std::unique_ptr<Parts> parts_;
+};
+
+} // namespace tintra

@@ -1,0 +1,127 @@
+#include "ui/shared/Canvas.h"
+
+#include <QAccessibleWidget>
+#include <memory>
+
+namespace tintra {
+namespace {
+
+/// An item of a canvas as a screen reader meets it. It reads the canvas's list each time, so it
+/// never tells of what is gone.
+class ItemInterface final : public QAccessibleInterface {
+public:
+    ItemInterface(Canvas* canvas, int item) : canvas_(canvas), index_(item) {}
+
+    bool isValid() const override { return item() != nullptr; }
+    QObject* object() const override { return nullptr; }
+    QWindow* window() const override {
+        return canvas_ ? canvas_->window()->windowHandle() : nullptr;
+    }
+    QAccessibleInterface* parent() const override {
+        return canvas_ ? QAccessible::queryAccessibleInterface(canvas_) : nullptr;
+    }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+
+    QString text(QAccessible::Text kind) const override {
+        const auto* it = item();
+        if (!it) return {};
+        switch (kind) {
+        case QAccessible::Name:
+            return it->name;
+        case QAccessible::Value:
+            return it->value;
+        case QAccessible::Description:
+            return it->description;
+        default:
+            return {};
+        }
+    }
+    void setText(QAccessible::Text, const QString&) override {}
+    QRect rect() const override {
+        const auto* it = item();
+        if (!it) return {};
+        const auto inside = it->rect.toAlignedRect();
+        return {canvas_->mapToGlobal(inside.topLeft()), inside.size()};
+    }
+    QAccessible::Role role() const override {
+        const auto* it = item();
+        return it ? it->role : QAccessible::NoRole;
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state;
+        const auto* it = item();
+        state.invalid = it == nullptr;
+        if (!it) return state;
+        state.focusable = state.selectable = true;
+        state.selected = it->selected;
+        state.focused = canvas_->hasFocus() && canvas_->focused() == index_;
+        state.invisible = !canvas_->isVisible();
+        return state;
+    }
+
+private:
+    const CanvasItem* item() const {
+        if (!canvas_ || index_ >= static_cast<int>(canvas_->items().size())) return nullptr;
+        return &canvas_->items()[static_cast<std::size_t>(index_)];
+    }
+
+    QPointer<Canvas> canvas_;
+    int index_;
+};
+
+class CanvasInterface final : public QAccessibleWidget {
+public:
+    explicit CanvasInterface(Canvas* canvas) : QAccessibleWidget(canvas, canvas->containerRole) {}
+    ~CanvasInterface() override {
+        for (const auto id : children_)
+            if (id) QAccessible::deleteAccessibleInterface(id);
+    }
+    CanvasInterface(const CanvasInterface&) = delete;
+    CanvasInterface& operator=(const CanvasInterface&) = delete;
+
+    int childCount() const override { return static_cast<int>(canvas()->items().size()); }
+    QAccessibleInterface* child(int index) const override {
+        if (index < 0 || index >= childCount()) return nullptr;
+        const auto at = static_cast<std::size_t>(index);
+        if (children_.size() <= at) children_.resize(at + 1, 0);
+        if (children_[at] == 0)
+            children_[at] =
+                QAccessible::registerAccessibleInterface(new ItemInterface(canvas(), index));
+        return QAccessible::accessibleInterface(children_[at]);
+    }
+    QAccessibleInterface* childAt(int x, int y) const override {
+        const auto item = canvas()->itemAt(canvas()->mapFromGlobal(QPoint(x, y)));
+        return item < 0 ? nullptr : child(item);
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        for (std::size_t i = 0; i < children_.size(); ++i)
+            if (children_[i] && QAccessible::accessibleInterface(children_[i]) == child)
+                return static_cast<int>(i);
+        return -1;
+    }
+    QAccessibleInterface* focusChild() const override {
+        return canvas()->hasFocus() ? child(canvas()->focused()) : nullptr;
+    }
+
+private:
+    Canvas* canvas() const { return static_cast<Canvas*>(object()); }
+
+    /// Registered interfaces of the items, made when first asked for; 0 for none.
+    mutable std::vector<QAccessible::Id> children_;
+};
+
+QAccessibleInterface* interfaceOf(const QString&, QObject* object) {
+    auto* canvas = dynamic_cast<Canvas*>(object);
+    return canvas ? new CanvasInterface(canvas) : nullptr;
+}
+
+} // namespace
+
+void installCanvasAccessibility() {
+    QAccessible::installFactory(interfaceOf);
+}
+
+} // namespace tintra

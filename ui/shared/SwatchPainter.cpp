@@ -1,0 +1,255 @@
+#include "ui/shared/SwatchPainter.h"
+
+#include "state/Preferences.h"
+#include "ui/shared/Figures.h"
+#include "ui/shared/SwatchWords.h"
+#include "ui/shared/Theme.h"
+
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+
+namespace tintra {
+namespace {
+
+constexpr int kCheck = 12;     ///< a square of the checkerboard, px
+constexpr int kWordsFoot = 60; ///< the lowest part of a swatch, where words stand on a flat colour
+constexpr int kButton = 28, kButtonGap = 2, kInset = 8;
+
+QPainterPath rounded(const QRectF& in, const std::array<int, 4>& radii) {
+    QPainterPath path;
+    const auto [topLeft, topRight, bottomRight, bottomLeft] = radii;
+    path.moveTo(in.left() + topLeft, in.top());
+    path.lineTo(in.right() - topRight, in.top());
+    path.arcTo(in.right() - 2 * topRight, in.top(), 2 * topRight, 2 * topRight, 90, -90);
+    path.lineTo(in.right(), in.bottom() - bottomRight);
+    path.arcTo(in.right() - 2 * bottomRight, in.bottom() - 2 * bottomRight, 2 * bottomRight,
+               2 * bottomRight, 0, -90);
+    path.lineTo(in.left() + bottomLeft, in.bottom());
+    path.arcTo(in.left(), in.bottom() - 2 * bottomLeft, 2 * bottomLeft, 2 * bottomLeft, 270, -90);
+    path.lineTo(in.left(), in.top() + topLeft);
+    path.arcTo(in.left(), in.top(), 2 * topLeft, 2 * topLeft, 180, -90);
+    path.closeSubpath();
+    return path;
+}
+
+bool isSquare(const std::array<int, 4>& radii) {
+    return std::all_of(radii.begin(), radii.end(), [](int radius) { return radius == 0; });
+}
+
+/// Fills the shape without seams between neighbours: square ones by whole pixels.
+void fillShape(QPainter& painter, const QRectF& in, const std::array<int, 4>& radii,
+               const QBrush& brush) {
+    if (isSquare(radii)) {
+        painter.fillRect(in, brush);
+        return;
+    }
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(brush);
+    painter.drawPath(rounded(in, radii));
+}
+
+QBrush checkerboard(const Theme& theme) {
+    QPixmap tile(2 * kCheck, 2 * kCheck);
+    tile.fill(theme.color(Token::checkLight));
+    QPainter painter(&tile);
+    const auto dark = theme.color(Token::checkDark);
+    painter.fillRect(0, 0, kCheck, kCheck, dark);
+    painter.fillRect(kCheck, kCheck, kCheck, kCheck, dark);
+    return QBrush(tile);
+}
+
+} // namespace
+
+QColor toQColor(const WashColor& color) {
+    const auto unit = [](double component) {
+        return static_cast<float>(std::isfinite(component) ? std::clamp(component, 0.0, 1.0) : 0);
+    };
+    return QColor::fromRgbF(unit(color.r), unit(color.g), unit(color.b), unit(color.a));
+}
+
+WashColor fromQColor(const QColor& color) {
+    return {color.redF(), color.greenF(), color.blueF(), color.alphaF()};
+}
+
+SwatchPainter::SwatchPainter(const Theme& theme, const Preferences& preferences)
+    : theme_(theme), preferences_(preferences) {}
+
+WashColor SwatchPainter::flat(const WashColor& color, Vision vision) const {
+    return simulate(vision, color.overCheckerboard());
+}
+
+QColor SwatchPainter::foreground(const WashColor& color, Vision vision) const {
+    return toQColor(flat(color, vision).readableForeground());
+}
+
+void SwatchPainter::fill(QPainter& painter, const QRectF& in, const WashColor& color, Vision vision,
+                         std::array<int, 4> radii) const {
+    if (color.isOpaque()) {
+        fillShape(painter, in, radii, toQColor(simulate(vision, color)));
+        return;
+    }
+    const auto seen = toQColor(simulate(vision, color));
+    const auto over = [&](const QBrush& backdrop) {
+        fillShape(painter, in, radii, backdrop);
+        fillShape(painter, in, radii, seen);
+    };
+    switch (preferences_.swatchBackdrop.value()) {
+    case SwatchBackdrop::checkerboard:
+        painter.setBrushOrigin(in.topLeft());
+        over(checkerboard(theme_));
+        break;
+    case SwatchBackdrop::ground:
+        over(theme_.color(Token::ground));
+        break;
+    case SwatchBackdrop::white:
+        over(Qt::white);
+        break;
+    case SwatchBackdrop::black:
+        over(Qt::black);
+        break;
+    case SwatchBackdrop::custom:
+        over(toQColor(simulate(vision, preferences_.backdropColour.value())));
+        break;
+    case SwatchBackdrop::strips: {
+        painter.save();
+        fillShape(painter, in, radii, Qt::white);
+        painter.setClipRect(in.adjusted(0, 0, -in.width() / 2, 0), Qt::IntersectClip);
+        fillShape(painter, in, radii, Qt::black);
+        painter.restore();
+        fillShape(painter, in, radii, seen);
+        break;
+    }
+    }
+}
+
+void SwatchPainter::hairline(QPainter& painter, const QRectF& in, int radius) const {
+    painter.setPen(QPen(QColor(127, 127, 127, 89), 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(in.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+}
+
+void SwatchPainter::chip(QPainter& painter, const QRectF& in, const WashColor& color,
+                         Vision vision) const {
+    constexpr auto kRadius = metrics::kChipRadius;
+    fill(painter, in, color, vision, {kRadius, kRadius, kRadius, kRadius});
+    hairline(painter, in, kRadius);
+}
+
+void SwatchPainter::paint(QPainter& painter, const QRectF& in, const SwatchLook& look) const {
+    if (look.leftBehind) {
+        painter.setPen(QPen(theme_.color(Token::edge), 1.5, Qt::DashLine));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(in.adjusted(1, 1, -1, -1), metrics::kGroupRadius,
+                                metrics::kGroupRadius);
+        return;
+    }
+    fill(painter, in, look.color, look.vision, look.radii);
+    const auto under = flat(look.color, look.vision);
+    const auto ink = toQColor(under.readableForeground());
+    if (!look.color.isOpaque() && look.shape != SwatchShape::cell) {
+        // Words never stand on the backdrop's pattern.
+        const auto foot = std::min<qreal>(in.height(), theme_.scaled(kWordsFoot));
+        fillShape(painter, in.adjusted(0, in.height() - foot, 0, 0),
+                  {0, 0, look.radii[2], look.radii[3]}, toQColor(under));
+    }
+    SwatchWords(theme_, in, look).paint(painter, ink, toQColor(under));
+
+    const auto places = buttonRects(in, look.shape, look.buttons.size());
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const auto& button = look.buttons[i];
+        auto mark = ink;
+        if (button.hovered || button.pressed) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(ink);
+            painter.drawRoundedRect(places[i], metrics::kControlRadius, metrics::kControlRadius);
+            mark = toQColor(under);
+        }
+        const auto icon = theme_.icon(button.icon, 20, mark, painter.device()->devicePixelRatioF());
+        painter.drawPixmap(places[i].center() - QPointF(10, 10), icon);
+    }
+
+    painter.setBrush(Qt::NoBrush);
+    if (look.focused) {
+        const auto other = ink == QColor(Qt::black) ? QColor(Qt::white) : QColor(Qt::black);
+        painter.setPen(QPen(ink, 3));
+        painter.drawRect(in.adjusted(1.5, 1.5, -1.5, -1.5));
+        painter.setPen(QPen(other, 2));
+        painter.drawRect(in.adjusted(4, 4, -4, -4));
+    } else if (look.selected) {
+        painter.setPen(QPen(ink, 2));
+        painter.drawRect(in.adjusted(1, 1, -1, -1));
+    }
+}
+
+QRectF SwatchPainter::nameRect(const QRectF& in, const SwatchLook& look) const {
+    return SwatchWords(theme_, in, look).name();
+}
+
+QRectF SwatchPainter::codeRect(const QRectF& in, const SwatchLook& look) const {
+    return SwatchWords(theme_, in, look).code();
+}
+
+std::vector<QRectF> SwatchPainter::buttonRects(const QRectF& in, SwatchShape shape,
+                                               std::size_t count) const {
+    std::vector<QRectF> rects;
+    const auto side = qreal(theme_.scaled(kButton));
+    const auto step = side + kButtonGap;
+    const bool isRow = shape == SwatchShape::row;
+    const auto room = in.width() - 2 * kInset + kButtonGap;
+    const auto perLine = std::max<std::size_t>(1, static_cast<std::size_t>(room / step));
+    for (std::size_t i = 0; i < count; ++i) {
+        if (isRow) {
+            const auto fromRight = static_cast<qreal>(count - i) * step;
+            rects.emplace_back(in.right() - kInset - fromRight, in.center().y() - side / 2, side,
+                               side);
+            continue;
+        }
+        const auto line = static_cast<qreal>(i / perLine), place = static_cast<qreal>(i % perLine);
+        // The index keeps the first line of a column to itself.
+        const auto top = in.top() + kInset + (shape == SwatchShape::column ? step : 0);
+        rects.emplace_back(in.left() + kInset + place * step, top + line * step, side, side);
+    }
+    return rects;
+}
+
+QPixmap SwatchPainter::card(const SwatchLook& look, QSize size, bool refused, qreal ratio) const {
+    constexpr int kMargin = 18;
+    constexpr qreal kTilt = -2;
+    const QSize whole = size + QSize(2 * kMargin, 2 * kMargin);
+    QPixmap pixmap(whole * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.translate(whole.width() / 2.0, whole.height() / 2.0);
+    painter.rotate(kTilt);
+    const QRectF card(-size.width() / 2.0, -size.height() / 2.0, size.width(), size.height());
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.drawRoundedRect(card.adjusted(-4, -4, 4, 4), 12, 12);
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(card.adjusted(-2, -2, 2, 2), 10, 10);
+    auto plain = look;
+    plain.shape = SwatchShape::tile;
+    plain.index.clear();
+    plain.buttons.clear();
+    plain.selected = plain.focused = false;
+    plain.radii.fill(metrics::kGroupRadius);
+    paint(painter, card, plain);
+    if (refused) {
+        const QRectF badge(card.right() - 16, card.top() - 16, 30, 30);
+        painter.setPen(QPen(Qt::white, 2));
+        painter.setBrush(QColor(0x16, 0x16, 0x16));
+        painter.drawEllipse(badge);
+        painter.setBrush(Qt::NoBrush);
+        const auto ring = badge.adjusted(8, 8, -8, -8);
+        painter.drawEllipse(ring);
+        const auto reach = ring.width() / 2 * M_SQRT1_2;
+        painter.drawLine(ring.center() - QPointF(reach, reach),
+                         ring.center() + QPointF(reach, reach));
+    }
+    return pixmap;
+}
+
+} // namespace tintra

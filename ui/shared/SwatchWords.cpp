@@ -1,0 +1,227 @@
+#include "ui/shared/SwatchWords.h"
+
+#include "ui/shared/Figures.h"
+#include "ui/shared/Theme.h"
+
+#include <QFontMetricsF>
+#include <QTextLayout>
+#include <algorithm>
+#include <cmath>
+
+namespace tintra {
+namespace {
+
+constexpr int kInset = 12;    ///< of words from the edges of a swatch, px
+constexpr int kMark = 24;     ///< the circle or square around a pin's number
+constexpr int kRowIndex = 36; ///< what the number takes of a row
+
+bool isAtFoot(SwatchShape shape) {
+    return shape == SwatchShape::column || shape == SwatchShape::tile ||
+           shape == SwatchShape::bandCell;
+}
+
+/// The name in at most two lines, the second one cut with an ellipsis.
+QStringList linesOf(const QString& text, const QFont& font, qreal width) {
+    const QFontMetricsF measure(font);
+    if (measure.horizontalAdvance(text) <= width) return {text};
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    auto line = layout.createLine();
+    line.setLineWidth(width);
+    layout.endLayout();
+    const auto cut = line.textStart() + line.textLength();
+    const auto first = text.left(cut).trimmed(), rest = text.mid(cut).trimmed();
+    if (rest.isEmpty()) return {first};
+    return {first, measure.elidedText(rest, Qt::ElideRight, width)};
+}
+
+} // namespace
+
+SwatchWords::SwatchWords(const Theme& theme, const QRectF& in, const SwatchLook& look)
+    : theme_(theme), in_(in), look_(look) {}
+
+QString SwatchWords::share() const {
+    if (look_.color.isOpaque()) return {};
+    return QString::number(std::lround(std::clamp(look_.color.a, 0.0, 1.0) * 100)) +
+           QLatin1Char('%');
+}
+
+int SwatchWords::nameLines() const {
+    if (look_.shape == SwatchShape::bandCell) return 0;
+    const auto width = in_.width() - 2 * kInset;
+    return static_cast<int>(linesOf(look_.name, theme_.font(TextStyle::name), width).size());
+}
+
+QRectF SwatchWords::code() const {
+    const qreal line = theme_.lineHeight(TextStyle::code);
+    switch (look_.shape) {
+    case SwatchShape::column:
+    case SwatchShape::tile:
+    case SwatchShape::bandCell:
+        return {in_.left() + kInset, in_.bottom() - kInset - line, in_.width() - 2 * kInset, line};
+    case SwatchShape::onSide: {
+        const auto length =
+            QFontMetricsF(theme_.font(TextStyle::codeOnSide)).horizontalAdvance(look_.code);
+        return {in_.center().x() - line / 2, in_.bottom() - kInset - length, line, length};
+    }
+    case SwatchShape::row: {
+        const auto width =
+            QFontMetricsF(theme_.font(TextStyle::code)).horizontalAdvance(look_.code) + 2;
+        return {in_.right() - kInset - width, in_.center().y() - line / 2, width, line};
+    }
+    case SwatchShape::cell:
+        break;
+    }
+    return {};
+}
+
+QRectF SwatchWords::name() const {
+    const auto codePlace = code();
+    const qreal line = theme_.lineHeight(TextStyle::name);
+    switch (look_.shape) {
+    case SwatchShape::column:
+    case SwatchShape::tile: {
+        const auto height = line * nameLines();
+        return {codePlace.left(), codePlace.top() - height, codePlace.width(), height};
+    }
+    case SwatchShape::onSide: {
+        const auto bottom = codePlace.top() - kInset;
+        return {in_.center().x() - line / 2, in_.top() + kInset, line,
+                std::max<qreal>(0, bottom - in_.top() - kInset)};
+    }
+    case SwatchShape::row: {
+        const auto left = in_.left() + (look_.index.isEmpty() ? kInset : kInset + kRowIndex);
+        return {left, in_.center().y() - line / 2,
+                std::max<qreal>(0, codePlace.left() - kInset - left), line};
+    }
+    case SwatchShape::bandCell:
+    case SwatchShape::cell:
+        break;
+    }
+    return {};
+}
+
+QRectF SwatchWords::indexRect() const {
+    const qreal line = theme_.lineHeight(TextStyle::caption);
+    if (look_.shape == SwatchShape::row)
+        return {in_.left() + kInset, in_.center().y() - kMark / 2.0, kMark, kMark};
+    if (look_.pinned) return {in_.left() + kInset, in_.top() + kInset, kMark, kMark};
+    const auto width = figuresWidth(theme_.font(TextStyle::caption), look_.index);
+    return {in_.left() + kInset, in_.top() + kInset, width, line};
+}
+
+void SwatchWords::paintIndex(QPainter& painter, const QColor& ink, const QColor& ground) const {
+    if (look_.index.isEmpty() || look_.shape == SwatchShape::onSide) return;
+    const auto place = indexRect();
+    painter.setFont(theme_.font(TextStyle::caption));
+    if (!look_.color.isOpaque()) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ground);
+        painter.drawRoundedRect(place.adjusted(-5, -2, 5, 2), metrics::kChipRadius,
+                                metrics::kChipRadius);
+    }
+    painter.setPen(ink);
+    if (look_.pinned) {
+        painter.setPen(QPen(ink, 1.5));
+        painter.setBrush(Qt::NoBrush);
+        if (look_.ownPin)
+            painter.drawRoundedRect(place.adjusted(1, 1, -1, -1), 4, 4);
+        else
+            painter.drawEllipse(place.adjusted(1, 1, -1, -1));
+        drawFigures(painter, place, Qt::AlignCenter, look_.index);
+    } else {
+        drawFigures(painter, place, Qt::AlignLeft | Qt::AlignVCenter, look_.index);
+    }
+}
+
+void SwatchWords::paintOnSide(QPainter& painter) const {
+    painter.save();
+    painter.translate(in_.center().x(), in_.bottom() - kInset);
+    painter.rotate(-90);
+    const auto codeFont = theme_.font(TextStyle::codeOnSide);
+    const auto length = QFontMetricsF(codeFont).horizontalAdvance(look_.code);
+    const qreal line = theme_.lineHeight(TextStyle::name);
+    const auto room = in_.height() - 2 * kInset;
+    if (length <= room) {
+        painter.setFont(codeFont);
+        painter.drawText(QRectF(0, -line / 2, length + 1, line), Qt::AlignLeft | Qt::AlignVCenter,
+                         look_.code);
+    }
+    const auto nameRoom = room - length - kInset;
+    if (nameRoom > line && !look_.hidesName) {
+        const auto font = theme_.font(TextStyle::name);
+        painter.setFont(font);
+        painter.drawText(QRectF(length + kInset, -line / 2, nameRoom, line),
+                         Qt::AlignLeft | Qt::AlignVCenter,
+                         QFontMetricsF(font).elidedText(look_.name, Qt::ElideRight, nameRoom));
+    }
+    painter.restore();
+}
+
+void SwatchWords::paintName(QPainter& painter) const {
+    const auto place = name();
+    if (look_.hidesName || place.width() < 8) return;
+    const auto font = theme_.font(TextStyle::name);
+    painter.setFont(font);
+    if (look_.shape == SwatchShape::row) {
+        painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
+                         QFontMetricsF(font).elidedText(look_.name, Qt::ElideRight, place.width()));
+        return;
+    }
+    const qreal line = theme_.lineHeight(TextStyle::name);
+    auto y = place.top();
+    for (const auto& text : linesOf(look_.name, font, place.width())) {
+        painter.drawText(QRectF(place.left(), y, place.width(), line),
+                         Qt::AlignLeft | Qt::AlignVCenter, text);
+        y += line;
+    }
+}
+
+void SwatchWords::paintCode(QPainter& painter, const QColor& ink, const QColor& ground) const {
+    auto place = code();
+    const auto font = theme_.font(TextStyle::code);
+    const QFontMetricsF measure(font);
+    painter.setFont(font);
+    const auto alpha = isAtFoot(look_.shape) ? share() : QString();
+    const auto alphaWidth = alpha.isEmpty() ? 0 : measure.horizontalAdvance(alpha) + 8;
+    const auto room = place.width();
+    const bool bothFit = measure.horizontalAdvance(look_.code) + alphaWidth <= room;
+    if (!alpha.isEmpty() && bothFit) {
+        painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, alpha);
+        place.setWidth(room - alphaWidth);
+    }
+    const auto text = measure.elidedText(look_.code, Qt::ElideRight, place.width());
+    if (look_.codeFlashes) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ink);
+        painter.drawRoundedRect(
+            QRectF(place.topLeft(), QSizeF(measure.horizontalAdvance(text), place.height()))
+                .adjusted(-4, 0, 4, 0),
+            metrics::kChipRadius, metrics::kChipRadius);
+        painter.setPen(ground);
+    }
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, text);
+    painter.setPen(ink);
+}
+
+void SwatchWords::paint(QPainter& painter, const QColor& ink, const QColor& ground) const {
+    if (look_.shape == SwatchShape::cell) return;
+    painter.setPen(ink);
+    if (look_.shape == SwatchShape::onSide) {
+        paintOnSide(painter);
+        return;
+    }
+    // A swatch too low for its words shows none rather than parts of them.
+    const auto needed = theme_.lineHeight(TextStyle::code) + 4;
+    if (in_.height() < needed) return;
+    const bool roomForName =
+        look_.shape == SwatchShape::row || name().top() >= in_.top() + kInset / 2.0;
+    paintCode(painter, ink, ground);
+    if (roomForName) paintName(painter);
+    const bool roomForIndex = look_.shape == SwatchShape::row ||
+                              indexRect().bottom() + 4 <= name().top() || look_.name.isEmpty();
+    painter.setPen(ink);
+    if (roomForIndex) paintIndex(painter, ink, ground);
+}
+
+} // namespace tintra
