@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QPainter>
+#include <QRect>
+#include <QStyleOption>
+
+namespace tintra {
+
+class Theme;
+
+/// The parts of standard controls, drawn from the tokens.
+class StyleParts {
+public:
+    StyleParts(const Theme& theme, QPainter& painter) : theme_(theme), painter_(painter) {}
+
+    void button(const QStyleOption& option) const;
+    void buttonLabel(const QStyleOptionButton& option) const;
+    void field(const QStyleOption& option) const;
+    void check(const QStyleOption& option) const;
+    void radio(const QStyleOption& option) const;
+    void menuPanel(const QStyleOption& option) const;
+    /// A second line of a row stands behind a line feed in its text.
+    void menuItem(const QStyleOptionMenuItem& option) const;
+    static QSize menuItemSize(const Theme& theme, const QStyleOptionMenuItem& option, int height,
+                              int checkWidth);
+    void menuBarItem(const QStyleOptionMenuItem& option) const;
+    void scrollBar(const QStyleOptionSlider& option, const QRect& handle) const;
+
+private:
+    const Theme& theme_;
+    QPainter& painter_;
+};
+
+} // namespace tintra
