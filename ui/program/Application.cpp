@@ -1,0 +1,178 @@
+#include "ui/program/Application.h"
+
+#include "state/Preferences.h"
+#include "state/Workspaces.h"
+#include "ui/help/AboutWindow.h"
+#include "ui/help/ShortcutsWindow.h"
+#include "ui/palette/PaletteWindow.h"
+#include "ui/settings/SettingsWindow.h"
+#include "ui/shared/Canvas.h"
+#include "ui/shared/TintraStyle.h"
+
+#include <QApplication>
+#include <QSessionManager>
+
+namespace tintra {
+namespace {
+
+/// Decides first whether colours are light or dark where the style asks for a palette.
+Rgb rgbOf(const QColor& color) {
+    return {color.redF(), color.greenF(), color.blueF()};
+}
+
+Rgb meanOf(const QColor& one, const QColor& other) {
+    return {(one.redF() + other.redF()) / 2.0, (one.greenF() + other.greenF()) / 2.0,
+            (one.blueF() + other.blueF()) / 2.0};
+}
+
+} // namespace
+
+Application::Application()
+    : toasts_(notices_, notifications_), services_(toasts_, dialogues_),
+      models_(services_.services(),
+              PaletteSurroundings::ofThisSystem(
+                  services_.services().mainLoop, services_.services().background,
+                  services_.services().folderWatch, services_.services().trash)),
+      theme_(models_.preferences(), desktopSettings_),
+      painter_(theme_, models_.preferences()), ui_{models_, services_.services(),
+                                                   theme_,  painter_,
+                                                   *this,   notices_} {
+    installCanvasAccessibility();
+    dialogues_.setTheme(theme_);
+    dialogues_.windowOf = [this](const ToastPlace& place) { return window(place); };
+    toasts_.barOf = [this](const ToastPlace& place) -> NoticeBar* {
+        auto* window = place.window == ToastWindow::palette ? palette(place.palette) : nullptr;
+        return window ? &window->notices() : nullptr;
+    };
+    connectModels();
+    applyTheme();
+}
+
+Application::~Application() {
+    delete settings_;
+    delete shortcuts_;
+    delete about_;
+}
+
+void Application::connectModels() {
+    auto& requests = models_.preferences().windows;
+    requests.openSettingsWindow = [this] { openSettings(); };
+    requests.openShortcutsWindow = [this] { openShortcuts(); };
+    requests.openAboutWindow = [this] { openAbout(); };
+    requests.openAcknowledgementsWindow = [this] { openAcknowledgements(); };
+    requests.openNewWindow = [this](const Uuid& id) { openPalette(id); };
+    models_.setThemeSurfaces([this] {
+        return ThemeSurfaces{
+            .ground = rgbOf(theme_.color(Token::ground)),
+            .checks = meanOf(theme_.color(Token::checkLight), theme_.color(Token::checkDark))};
+    });
+    // A session that ends does not wait for questions: everything is kept and comes back.
+    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp,
+                     [this](QSessionManager&) { models_.keep(); });
+}
+
+void Application::applyTheme() {
+    const auto apply = [this] {
+        // A new style makes every widget measure itself anew, which fonts of another size need.
+        qApp->setStyle(new TintraStyle(theme_));
+        qApp->setPalette(qApp->style()->standardPalette());
+        qApp->setFont(theme_.font(TextStyle::body));
+    };
+    apply();
+    themeChanged_ = QPropertyNotifier(theme_.version(), apply);
+}
+
+void Application::start(const std::vector<std::filesystem::path>& files) {
+    models_.start([this](const Uuid& id) { openPalette(id); });
+    if (palettes_.empty()) openPalette(models_.workspaces().openPrimary().id());
+    open(files);
+}
+
+void Application::open(const std::vector<std::filesystem::path>& files) {
+    for (const auto& file : files)
+        openPaletteFile(file);
+}
+
+void Application::openPaletteFile(const std::filesystem::path& file) {
+    auto* front = models_.workspaces().front();
+    const bool takesIt = front && front->swatches().empty() && !front->attachment().value();
+    auto& state = takesIt ? *front : models_.workspaces().openExtra();
+    state.open(file);
+}
+
+void Application::activate() {
+    auto* front = models_.workspaces().front();
+    if (!front) front = &models_.workspaces().openPrimary();
+    openPalette(front->id());
+}
+
+PaletteWindow* Application::palette(const Uuid& id) const {
+    const auto found = palettes_.find(id);
+    return found == palettes_.end() ? nullptr : found->second.get();
+}
+
+std::vector<PaletteWindow*> Application::palettes() const {
+    std::vector<PaletteWindow*> windows;
+    for (const auto& id : models_.workspaces().order().value())
+        if (auto* window = palette(id)) windows.push_back(window);
+    return windows;
+}
+
+QWidget* Application::window(const ToastPlace& place) const {
+    return place.window == ToastWindow::palette ? palette(place.palette) : nullptr;
+}
+
+void Application::openPalette(const Uuid& id) {
+    auto& window = palettes_[id];
+    if (!window) window = std::make_unique<PaletteWindow>(ui_, *models_.workspaces().state(id));
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void Application::closePalette(const Uuid& id) {
+    models_.workspaces().close(id, [this, id](bool closed) {
+        if (!closed) return;
+        // The window may be in the middle of the event that closes it.
+        const auto window = palettes_.extract(id);
+        if (window.empty()) return;
+        window.mapped()->closeNow();
+        window.mapped().release()->deleteLater();
+    });
+}
+
+template <class Window>
+void Application::showOnly(QPointer<Window>& window) {
+    if (!window) {
+        window = new Window(ui_);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void Application::openSettings() {
+    showOnly(settings_);
+}
+
+void Application::openShortcuts() {
+    showOnly(shortcuts_);
+}
+
+void Application::openAbout() {
+    showOnly(about_);
+}
+
+void Application::openAcknowledgements() {
+    showOnly(about_);
+    about_->showAcknowledgements();
+}
+
+void Application::quit() {
+    models_.quit([](bool quits) {
+        if (quits) QApplication::quit();
+    });
+}
+
+} // namespace tintra

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "platform/desktop/services/DesktopNotifications.h"
+#include "state/Models.h"
+#include "ui/Ui.h"
+#include "ui/program/DesktopServices.h"
+#include "ui/program/Windows.h"
+#include "ui/shared/NoticeBar.h"
+#include "ui/shared/PortalSettings.h"
+#include "ui/shared/SwatchPainter.h"
+#include "ui/shared/Theme.h"
+#include "ui/shared/WindowDialogues.h"
+#include "ui/shared/WindowToasts.h"
+
+#include <QPointer>
+#include <filesystem>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace tintra {
+
+class AboutWindow;
+class SettingsWindow;
+class ShortcutsWindow;
+
+/// The composition root of the desktop application: services, models, theme and windows, put
+/// together. One a process. Main loop.
+class Application final : public Windows {
+public:
+    Application();
+    ~Application() override;
+
+    /// Brings back what was there, opens the files and shows the windows.
+    void start(const std::vector<std::filesystem::path>& files);
+    /// Opens palettes, each in the front window when that is empty, else in a new one.
+    void open(const std::vector<std::filesystem::path>& files);
+    /// Brings the front window up.
+    void activate();
+    Ui& ui() { return ui_; }
+
+    PaletteWindow* palette(const Uuid& id) const override;
+    std::vector<PaletteWindow*> palettes() const override;
+    QWidget* window(const ToastPlace& place) const override;
+    void openPalette(const Uuid& id) override;
+    void closePalette(const Uuid& id) override;
+    void openSettings() override;
+    void openShortcuts() override;
+    void openAbout() override;
+    void openAcknowledgements() override;
+    void quit() override;
+
+private:
+    void applyTheme();
+    void connectModels();
+    void openPaletteFile(const std::filesystem::path& file);
+    /// Shows the one window of its kind, made when first asked for.
+    template <class Window>
+    void showOnly(QPointer<Window>& window);
+
+    NoticeHistory notices_;
+    DesktopNotifications notifications_;
+    WindowToasts toasts_;
+    WindowDialogues dialogues_;
+    DesktopServices services_;
+    Models models_;
+    PortalSettings desktopSettings_;
+    Theme theme_;
+    SwatchPainter painter_;
+    Ui ui_;
+    std::unordered_map<Uuid, std::unique_ptr<PaletteWindow>> palettes_;
+    QPointer<SettingsWindow> settings_;
+    QPointer<ShortcutsWindow> shortcuts_;
+    QPointer<AboutWindow> about_;
+    QPropertyNotifier themeChanged_;
+};
+
+} // namespace tintra
