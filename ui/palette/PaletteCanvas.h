@@ -1,0 +1,99 @@
+#pragma once
+
+#include "state/AppState.h"
+#include "ui/Ui.h"
+#include "ui/palette/SwatchLayout.h"
+#include "ui/shared/Canvas.h"
+#include "ui/shared/ColourMime.h"
+
+#include <QLineEdit>
+#include <QPointer>
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace tintra {
+
+/// The swatches of a palette window: columns, tiles or rows. Words are renamed where they stand,
+/// colours are dragged from here and dropped here.
+class PaletteCanvas final : public Canvas {
+public:
+    enum Kind { swatch, addCell };
+
+    PaletteCanvas(Ui& ui, AppState& state, QWidget* parent);
+    ~PaletteCanvas() override;
+
+    void setDisplay(PaletteDisplay display);
+    /// Rows with the numbers of the picture's pins, as beside a picture.
+    void setRows(bool picturePane);
+    /// The selected colour alone fills the canvas.
+    void setPeeking(bool peeks);
+    void beginRename(std::size_t at);
+
+    /// Is asked for the menu of the selected swatch, at a place of the screen.
+    std::function<void(QPoint)> contextMenu;
+    /// Is told what to bring into view.
+    std::function<void(const QRect&)> reveal;
+
+protected:
+    std::vector<CanvasItem> layoutItems(QSizeF size) const override;
+    void paintItem(QPainter& painter, const CanvasItem& item, ItemState state) override;
+    void paintOverlay(QPainter& painter) override;
+    void focusMoved(int item) override;
+    void hoverMoved(int item, QPointF place) override;
+    int neighbour(int from, Qt::Key key) const override;
+
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    struct Subscriptions;
+
+    SwatchPlaces places(QSizeF size) const;
+    SwatchLook look(std::size_t at) const;
+    QString code(std::size_t at) const;
+    WashColor colorAt(std::size_t at) const;
+    void setWhole();
+    void syncSelection();
+    std::optional<int> buttonAt(int item, QPointF place) const;
+    void press(std::size_t swatch, int button);
+    void clickWords(std::size_t swatch, QPointF place);
+    void endRename(bool keep);
+    void startDrag(std::size_t at);
+    std::size_t insertionAt(QPointF place) const;
+    QRectF insertionBar() const;
+    void setInsertion(std::optional<std::size_t> at);
+    void flashCode();
+
+    Ui& ui_;
+    AppState& state_;
+    PaletteDisplay display_ = PaletteDisplay::columns;
+    bool rows_ = false, peeks_ = false;
+    int hoveredButton_ = -1, pressedButton_ = -1;
+    std::optional<std::size_t> pressed_; ///< swatch under a button of the mouse
+    bool wasSelected_ = false;           ///< when it was pressed
+    QPointF pressedAt_;
+    std::optional<std::size_t> insertion_; ///< where a drop would go
+    bool wholeTarget_ = false;             ///< a drop would go to the palette as a whole
+    std::optional<std::size_t> flashing_;  ///< whose code was just copied
+    std::unique_ptr<DelayedTask> flash_;
+    QPointer<QLineEdit> field_;
+    std::size_t renamed_ = 0;
+    std::unique_ptr<Subscriptions> subscriptions_;
+};
+
+} // namespace tintra
