@@ -1,0 +1,20 @@
+#include "ui/shared/Canvas.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <clocale>
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("tintra-desktop"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    // What a key press or a drop brings is seen at once.
+    QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
+    QAccessible::setActive(true);
+    tintra::installCanvasAccessibility();
+    return RUN_ALL_TESTS();
+}
