@@ -12,8 +12,8 @@ namespace {
 namespace fs = std::filesystem;
 
 const std::map<std::string, int> kLevels{
-    {"mix", 0},   {"platform", 0}, {"resources", 0}, {"colour", 1},      {"palettes", 2},
-    {"state", 3}, {"cli", 4},      {"ui", 4},        {"integration", 4},
+    {"mix", 0},   {"platform", 0}, {"resources", 0},   {"colour", 1}, {"palettes", 2},
+    {"state", 3}, {"cli", 4},      {"integration", 4}, {"ui", 5},
 };
 
 struct Include {

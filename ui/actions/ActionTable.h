@@ -3,10 +3,10 @@
 #include <QKeySequence>
 #include <QList>
 #include <QString>
-#include <cstdint>
-#include <optional>
 #include <span>
 #include <string_view>
+
+class QMenu;
 
 namespace tintra {
 
@@ -25,6 +25,7 @@ enum class ActionId {
     duplicatePalette,
     renamePalette,
     installInColourPicker,
+    installFor,
     revealPalette,
     trashPalette,
     close,
@@ -33,6 +34,7 @@ enum class ActionId {
     undo,
     redo,
     copy,
+    copyAs,
     pasteColours,
     typeOrPaste,
     clear,
@@ -40,9 +42,11 @@ enum class ActionId {
     // Palette
     addBlankSwatch,
     openPicture,
+    harmony,
     addHarmony,
     clearSeeds,
     sendAllToContrast,
+    libraryPalettes,
     // Swatch
     renameSwatch,
     editColour,
@@ -55,27 +59,43 @@ enum class ActionId {
     duplicateSwatch,
     moveLeft,
     moveRight,
+    sendToPhotoshop,
+    sendToIllustrator,
     removeSwatch,
     // View
     columns,
     tiles,
     colourEditor,
     picturePane,
-    nextVision,
-    typicalVision,
+    vision,
+    codeFormat,
     collapse,
     alwaysOnTop,
     showMenuBar,
-    peek,
-    nextRegion,
-    previousRegion,
-    focusNotice,
-    contextMenu,
+    // Window
+    openWindows,
     // Help
     shortcuts,
     recentNotices,
     acknowledgements,
     about,
+    // Keys alone
+    nextVision,
+    typicalVision,
+    peek,
+    nextRegion,
+    previousRegion,
+    focusNotice,
+    contextMenu,
+    copyFavourite1,
+    copyFavourite2,
+    copyFavourite3,
+    copyFavourite4,
+    copyFavourite5,
+    copyFavourite6,
+    copyFavourite7,
+    copyFavourite8,
+    copyFavourite9,
 };
 
 /// The menus of the bar, in order; `none` for what only has a key.
@@ -95,22 +115,29 @@ enum class KeyScope {
 
 struct ActionRow {
     ActionId value;
-    std::string_view raw; ///< identifier, for tests and other programs
-    const char* text;     ///< English source, with an ellipsis when it asks further
-    const char* keys;     ///< portable key texts, separated by "; "; empty for none
-    KeyScope scope;
-    MenuId menu;
-    bool opensGroup; ///< a separator stands before it
-    bool (*isEnabled)(const ActionContext&);
-    void (*perform)(const ActionContext&);
-    bool (*isOn)(const ActionContext&);     ///< null for what is not switched
-    QString (*title)(const ActionContext&); ///< null when `text` is the title
+    std::string_view raw;  ///< identifier, for tests and other programs
+    const char* text;      ///< English source, with an ellipsis when it asks further
+    const char* keys = ""; ///< portable key texts, separated by "; "; empty for none
+    KeyScope scope = KeyScope::window;
+    MenuId menu = MenuId::none;
+    bool (*isEnabled)(const ActionContext&) = nullptr; ///< null: whenever a window is there
+    void (*perform)(const ActionContext&) = nullptr;   ///< null for what only opens a menu
+    bool (*isOn)(const ActionContext&) = nullptr;      ///< null for what is not switched
+    QString (*title)(const ActionContext&) = nullptr;  ///< null when `text` is the title
+    /// Fills the menu that the row opens; null for a row that opens none.
+    void (*fill)(QMenu&, const ActionContext&) = nullptr;
+    bool (*isShown)(const ActionContext&) = nullptr; ///< null: in every menu that lists it
 };
 
 std::span<const ActionRow> allActions();
 const ActionRow& actionRow(ActionId id);
 QList<QKeySequence> keySequences(const ActionRow& row);
+/// The first of them as menus and tooltips show it; empty for none.
+QString keyText(const ActionRow& row);
 /// The title now, in the wording of this desktop.
 QString actionTitle(const ActionRow& row, const ActionContext& context);
+bool isEnabled(const ActionRow& row, const ActionContext& context);
+/// Does it when it is enabled; answers whether it was.
+bool perform(ActionId id, const ActionContext& context);
 
 } // namespace tintra

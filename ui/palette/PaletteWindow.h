@@ -43,6 +43,7 @@ public:
     void showExport();
     void beginRename();
     void setPeeking(bool peeks);
+    bool showsMenuBar() const;
     void toggleMenuBar();
     /// Gives the keyboard to the next (1) or the previous (-1) region.
     void focusRegion(int by);

@@ -1,0 +1,154 @@
+#include "ui/actions/Menus.h"
+
+#include "ui/shared/Text.h"
+
+#include <QMenu>
+#include <QMenuBar>
+#include <array>
+#include <optional>
+#include <span>
+
+namespace tintra {
+namespace {
+
+using enum ActionId;
+/// A row of a menu; nothing for a line between groups.
+using MenuRow = std::optional<ActionId>;
+constexpr std::nullopt_t kLine = std::nullopt;
+
+constexpr MenuRow kFile[] = {newPalette,
+                             newPaletteHere,
+                             open,
+                             kLine,
+                             save,
+                             saveAs,
+                             duplicatePalette,
+                             renamePalette,
+                             installInColourPicker,
+                             installFor,
+                             revealPalette,
+                             trashPalette,
+                             kLine,
+                             ActionId::close,
+                             quit};
+constexpr MenuRow kEdit[] = {undo,        redo,  kLine, copy,  copyAs,  pasteColours,
+                             typeOrPaste, kLine, clear, kLine, settings};
+constexpr MenuRow kPalette[] = {addBlankSwatch, openPicture,    kLine, harmony,
+                                addHarmony,     clearSeeds,     kLine, sendAllToContrast,
+                                kLine,          libraryPalettes};
+constexpr MenuRow kSwatch[] = {copy,         copyAs,          renameSwatch,      editColour,
+                               kLine,        toggleBench,     sendToContrast,    sendAsText,
+                               sendAsGround, kLine,           useAsFirstSeed,    useAsLastSeed,
+                               kLine,        duplicateSwatch, moveLeft,          moveRight,
+                               kLine,        sendToPhotoshop, sendToIllustrator, kLine,
+                               removeSwatch};
+constexpr MenuRow kView[] = {columns, tiles,      kLine, colourEditor, picturePane, kLine,
+                             vision,  codeFormat, kLine, collapse,     alwaysOnTop, showMenuBar};
+constexpr MenuRow kWindow[] = {openWindows};
+constexpr MenuRow kHelp[] = {shortcuts, recentNotices, kLine, acknowledgements, about};
+constexpr MenuRow kCanvas[] = {pasteColours, typeOrPaste, addBlankSwatch, kLine, openPicture};
+
+struct MenuOfBar {
+    MenuId id;
+    const char* title;
+    std::span<const MenuRow> rows;
+};
+const std::array kMenus{
+    MenuOfBar{MenuId::file, "File", kFile},          MenuOfBar{MenuId::edit, "Edit", kEdit},
+    MenuOfBar{MenuId::palette, "Palette", kPalette}, MenuOfBar{MenuId::swatch, "Swatch", kSwatch},
+    MenuOfBar{MenuId::view, "View", kView},          MenuOfBar{MenuId::window, "Window", kWindow},
+    MenuOfBar{MenuId::help, "Help", kHelp},
+};
+
+const MenuOfBar& menuOf(MenuId id) {
+    return kMenus.at(static_cast<std::size_t>(id));
+}
+
+void addSubmenu(QMenu& menu, const ActionRow& row, const ActionContext& context) {
+    auto* sub = menu.addMenu(actionTitle(row, context));
+    sub->menuAction()->setEnabled(isEnabled(row, context));
+    // Only what is looked into is filled.
+    QObject::connect(sub, &QMenu::aboutToShow, sub, [sub, fill = row.fill, context] {
+        if (sub->isEmpty()) fill(*sub, context);
+    });
+}
+
+void addRow(QMenu& menu, const ActionRow& row, const ActionContext& context) {
+    if (row.isShown && !row.isShown(context)) return;
+    if (row.fill) {
+        addSubmenu(menu, row, context);
+        return;
+    }
+    auto title = actionTitle(row, context);
+    title.replace(u'&', QStringLiteral("&&"));
+    auto* action = menu.addAction(title);
+    // The window's own shortcuts listen; here the key is only shown.
+    action->setShortcuts(keySequences(row));
+    action->setShortcutContext(Qt::WidgetShortcut);
+    action->setEnabled(isEnabled(row, context));
+    if (row.isOn) {
+        action->setCheckable(true);
+        action->setChecked(row.isOn(context));
+    }
+    QObject::connect(action, &QAction::triggered, &menu,
+                     [id = row.value, context] { perform(id, context); });
+}
+
+void addRows(QMenu& menu, std::span<const MenuRow> rows, const ActionContext& context) {
+    for (const auto& row : rows) {
+        if (row)
+            addRow(menu, actionRow(*row), context);
+        else
+            menu.addSeparator();
+    }
+}
+
+void fillWhenOpened(QMenu& menu, MenuId id, const ContextOf& context) {
+    QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&menu, id, context] {
+        menu.clear();
+        fillMenu(menu, id, context());
+    });
+}
+
+} // namespace
+
+void fillMenu(QMenu& menu, MenuId id, const ActionContext& context) {
+    if (id == MenuId::window) {
+        // The windows themselves, without a menu between.
+        actionRow(openWindows).fill(menu, context);
+        return;
+    }
+    addRows(menu, menuOf(id).rows, context);
+}
+
+void fillMenuBar(QMenuBar& bar, const ContextOf& context) {
+    for (const auto& menu : kMenus)
+        fillWhenOpened(*bar.addMenu(u'&' + worded(menu.title)), menu.id, context);
+}
+
+void fillMoreMenu(QMenu& menu, const ContextOf& context) {
+    for (const auto& one : kMenus)
+        fillWhenOpened(*menu.addMenu(worded(one.title)), one.id, context);
+}
+
+void fillSwatchMenu(QMenu& menu, const ActionContext& context) {
+    addRows(menu, kSwatch, context);
+}
+
+void fillCanvasMenu(QMenu& menu, const ActionContext& context) {
+    addRows(menu, kCanvas, context);
+}
+
+std::vector<ActionId> actionsOf(MenuId id) {
+    std::vector<ActionId> all;
+    if (id == MenuId::none) return all;
+    for (const auto& row : menuOf(id).rows)
+        if (row) all.push_back(*row);
+    return all;
+}
+
+const char* menuTitle(MenuId id) {
+    return id == MenuId::none ? "Keys" : menuOf(id).title;
+}
+
+} // namespace tintra

@@ -1,0 +1,35 @@
+#include "ui/actions/Shortcuts.h"
+
+#include "ui/shared/Canvas.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QShortcut>
+
+namespace tintra {
+
+void installShortcuts(QWidget& window, const ContextOf& context) {
+    for (const auto& row : allActions()) {
+        if (row.scope != KeyScope::window || !row.perform) continue;
+        for (const auto& keys : keySequences(row)) {
+            auto* shortcut = new QShortcut(keys, &window);
+            const auto act = [id = row.value, context] { perform(id, context()); };
+            QObject::connect(shortcut, &QShortcut::activated, &window, act);
+        }
+    }
+}
+
+bool performCanvasKey(const QKeyEvent& event, const ActionContext& context) {
+    if (!dynamic_cast<Canvas*>(QApplication::focusWidget())) return false;
+    // The menu key comes as an event of its own as well.
+    if (event.key() == Qt::Key_Menu) return false;
+    // The number pad's keys are the same to the table.
+    const auto held = event.modifiers() & ~Qt::KeypadModifier;
+    const QKeySequence pressed(QKeyCombination(held, static_cast<Qt::Key>(event.key())));
+    for (const auto& row : allActions())
+        if (row.scope == KeyScope::canvas && keySequences(row).contains(pressed))
+            return perform(row.value, context);
+    return false;
+}
+
+} // namespace tintra
