@@ -97,6 +97,8 @@ public:
     const FileVersion& loadedVersion() const { return loadedVersion_; }
     /// The file's name, else the untitled name.
     std::string title() const;
+    /// Under which `Preferences::paletteViews` keeps how the palette is shown.
+    std::string displayKey() const;
     std::optional<std::size_t> indexOf(const Uuid& swatch) const;
     /// The user's name, else the nearest one.
     std::string swatchName(std::size_t at) const;
@@ -399,8 +401,6 @@ private:
     Home home() const;
     /// The window's file as the Library knows it.
     PaletteStore::Entry entryOfFile() const;
-    /// What `paletteViews` knows the palette by.
-    std::string displayKey() const;
     void leaveUntitled();
     void attach(PaletteAttachment to);
     /// The palette, as it was at that version, is kept in this file.

@@ -86,6 +86,7 @@ enum class ActionId {
     nextRegion,
     previousRegion,
     focusNotice,
+    focusMenuBar,
     contextMenu,
     copyFavourite1,
     copyFavourite2,

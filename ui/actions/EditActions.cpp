@@ -34,7 +34,7 @@ void pasteColours(const Context& context) {
     const auto* mime = QGuiApplication::clipboard()->mimeData();
     if (!mime) return;
     const auto found = dropped(*mime);
-    if (!found.isEmpty() && !found.colour) receiveFiles(to, found);
+    if (!found.isEmpty() && !found.colour) receiveFiles(context.ui, to, found, false);
 }
 
 void clear(const Context& context) {

@@ -1,10 +1,8 @@
 #include "ui/actions/Shortcuts.h"
 
-#include "ui/shared/Canvas.h"
-
-#include <QApplication>
 #include <QKeyEvent>
 #include <QShortcut>
+#include <QWidget>
 
 namespace tintra {
 
@@ -20,7 +18,6 @@ void installShortcuts(QWidget& window, const ContextOf& context) {
 }
 
 bool performCanvasKey(const QKeyEvent& event, const ActionContext& context) {
-    if (!dynamic_cast<Canvas*>(QApplication::focusWidget())) return false;
     // The menu key comes as an event of its own as well.
     if (event.key() == Qt::Key_Menu) return false;
     // The number pad's keys are the same to the table.

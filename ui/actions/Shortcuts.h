@@ -7,12 +7,12 @@ class QWidget;
 
 namespace tintra {
 
-/// Makes the keys of the table act in a window: those of the window anywhere in it. The window
-/// hands `performCanvasKey` what no child has taken.
+/// Makes the keys of the table that belong to a window act anywhere in it. For those of a canvas
+/// the window hands `performCanvasKey` what a focused canvas has left.
 void installShortcuts(QWidget& window, const ContextOf& context);
 
-/// Performs a row whose keys act on a canvas; answers whether one was. Single letters stay out of
-/// the desktop's shortcuts, so that they can be typed wherever a field has the keyboard.
+/// Performs a row whose keys act on a canvas; answers whether one was. Such keys, single letters
+/// among them, are no shortcuts of the toolkit, so a field that has the keyboard gets them first.
 bool performCanvasKey(const QKeyEvent& event, const ActionContext& context);
 
 } // namespace tintra

@@ -1,24 +1,77 @@
 #include "ui/palette/FileDrops.h"
 
 #include "palettes/PaletteFile.h"
-#include "state/AppState.h"
+#include "platform/Background.h"
+#include "platform/MainLoop.h"
+#include "platform/Services.h"
+#include "platform/Toasts.h"
+#include "state/Models.h"
+#include "state/NoticeTexts.h"
+#include "state/SaveTexts.h"
 #include "ui/shared/Text.h"
 
+#include <QDropEvent>
 #include <algorithm>
 
 namespace tintra {
+namespace {
 
-void receiveFiles(AppState& state, const Dropped& data) {
+void addAll(Ui& ui, AppState& to, const std::filesystem::path& file,
+            const std::vector<PaletteFile::Swatch>& found) {
+    if (found.empty()) {
+        ui.services.toasts.show(file.filename().string() + " could not be read", kForExplaining, {},
+                                to.place());
+        return;
+    }
+    std::vector<WashColor> colours;
+    std::vector<std::optional<std::string>> names;
+    for (const auto& swatch : found) {
+        colours.push_back(swatch.color);
+        names.push_back(swatch.name);
+    }
+    to.addAllToPalette(colours, names);
+}
+
+/// Reads the file in the background; nothing comes of it when the window is closed meanwhile.
+void addFile(Ui& ui, const Uuid& window, const std::filesystem::path& file) {
+    ui.services.background.run([&ui, window, file] {
+        auto found = PaletteFile::readNamed(file).value_or(std::vector<PaletteFile::Swatch>());
+        ui.services.mainLoop.post([&ui, window, file, swatches = std::move(found)] {
+            if (auto* to = ui.models.workspaces().state(window)) addAll(ui, *to, file, swatches);
+        });
+    });
+}
+
+} // namespace
+
+bool asksToMove(const QDropEvent& event) {
+    return event.modifiers().testFlag(Qt::ControlModifier);
+}
+
+bool asksToAdd(const QDropEvent& event) {
+    return event.modifiers().testFlag(Qt::ShiftModifier);
+}
+
+bool receiveColour(Ui& ui, AppState& state, const Drag& drag, std::size_t at, bool moving) {
+    if (!state.receive(drag, at, moving)) return false;
+    const auto* swatch = std::get_if<DragOfSwatch>(&drag.source);
+    if (!moving || !swatch || swatch->origin.windowID == state.id()) return true;
+    if (auto* source = ui.models.workspaces().state(swatch->origin.windowID))
+        source->release(swatch->origin.swatchID);
+    return true;
+}
+
+void receiveFiles(Ui& ui, AppState& state, const Dropped& data, bool adds) {
     if (!data.files.empty()) {
-        const auto palette = std::find_if(data.files.begin(), data.files.end(),
-                                          [](const std::filesystem::path& file) {
-                                              return PaletteFile::kindOf(file).has_value();
-                                          });
+        const auto palette = std::ranges::find_if(
+            data.files, [](const auto& file) { return PaletteFile::kindOf(file).has_value(); });
         // What is neither is said by the picture's own sentence.
-        if (palette != data.files.end())
-            state.open(*palette);
-        else
+        if (palette == data.files.end())
             state.loadImage(data.files.front());
+        else if (adds)
+            addFile(ui, state.id(), *palette);
+        else
+            state.open(*palette);
         return;
     }
     if (data.picture) {

@@ -3,6 +3,7 @@
 #include "platform/MainLoop.h"
 #include "platform/Services.h"
 #include "state/Models.h"
+#include "ui/shared/Controls.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
@@ -13,6 +14,7 @@
 namespace tintra {
 namespace {
 
+constexpr int kMargin = 12;
 constexpr int kRow = 44; ///< least height of a row
 constexpr int kBar = 4;  ///< thickness of the bar beneath a selected swatch
 constexpr int kBarGap = 4;
@@ -24,48 +26,46 @@ constexpr std::array<std::string_view, 5> kButtons{"copy", "editor", "bench", "c
 
 } // namespace
 
-struct PaletteCanvas::Subscriptions {
-    std::vector<QPropertyNotifier> all;
-    template <class Property>
-    void add(const Property& property, std::function<void()> changed) {
-        all.emplace_back(property, std::move(changed));
-    }
-};
-
 PaletteCanvas::PaletteCanvas(Ui& ui, AppState& state, QWidget* parent)
-    : Canvas(ui.theme, parent), ui_(ui), state_(state),
-      subscriptions_(std::make_unique<Subscriptions>()) {
+    : Canvas(ui.theme, parent), ui_(ui), state_(state) {
     setAccessibleName(worded("Palette"));
     setAcceptDrops(true);
-    auto& preferences = ui.models.preferences();
+    subscribe();
+    setWhole();
+    relayout();
+    syncSelection();
+}
+
+void PaletteCanvas::subscribe() {
+    auto& preferences = ui_.models.preferences();
     const auto layOut = [this] {
         setWhole();
         relayout();
         syncSelection();
     };
     const auto repaint = [this] { relayout(); };
-    subscriptions_->add(state.customPalette(), layOut);
-    subscriptions_->add(ui.theme.version(), layOut);
-    subscriptions_->add(state.selectedSwatch, [this] { syncSelection(); });
-    subscriptions_->add(state.vision, repaint);
-    subscriptions_->add(state.editorBuffer, repaint);
-    subscriptions_->add(state.imageSource, repaint);
-    subscriptions_->add(preferences.format, repaint);
-    subscriptions_->add(preferences.formatOptions, repaint);
-    subscriptions_->add(preferences.swatchBackdrop, repaint);
-    subscriptions_->add(preferences.backdropColour, repaint);
-    subscriptions_->add(preferences.rgbProfile, repaint);
-    subscriptions_->add(state.copyTick, [this] { flashCode(); });
-    subscriptions_->add(state.renamingSwatch, [this] {
+    subscriptions_.add(state_.customPalette(), layOut);
+    subscriptions_.add(ui_.theme.version(), layOut);
+    subscriptions_.add(state_.selectedSwatch, [this] { syncSelection(); });
+    subscriptions_.add(state_.vision, [this] { update(); });
+    subscriptions_.add(state_.editorBuffer, repaint);
+    subscriptions_.add(state_.imageSource, repaint);
+    subscriptions_.add(preferences.format, repaint);
+    subscriptions_.add(preferences.formatOptions, repaint);
+    subscriptions_.add(preferences.swatchBackdrop, repaint);
+    subscriptions_.add(preferences.backdropColour, repaint);
+    subscriptions_.add(preferences.rgbProfile, repaint);
+    subscriptions_.add(preferences.showsWatermark, repaint);
+    subscriptions_.add(state_.copyTick, [this] { flashCode(); });
+    subscriptions_.add(state_.renamingSwatch, [this] {
         if (const auto at = state_.renamingSwatch.value()) beginRename(*at);
     });
-    subscriptions_->add(state.revealSwatch, [this] {
+    subscriptions_.add(state_.revealSwatch, [this] {
         const auto at = state_.revealSwatch.value();
         const auto item = at ? find(swatch, *at) : -1;
         if (item >= 0 && reveal)
             reveal(items()[static_cast<std::size_t>(item)].rect.toAlignedRect());
     });
-    setWhole();
 }
 
 PaletteCanvas::~PaletteCanvas() = default;
@@ -115,106 +115,142 @@ WashColor PaletteCanvas::colorAt(std::size_t at) const {
     return buffer && buffer->swatchID == held.id ? buffer->color : held.color;
 }
 
-QString PaletteCanvas::code(std::size_t at) const {
+QString PaletteCanvas::code(std::size_t at, const std::string& name) const {
     const auto& preferences = ui_.models.preferences();
-    return fromUtf8(preferences.format.value().string(colorAt(at), state_.swatchName(at),
-                                                      preferences.formatOptions.value()));
+    return fromUtf8(
+        preferences.format.value().string(colorAt(at), name, preferences.formatOptions.value()));
+}
+
+CanvasItem PaletteCanvas::itemOf(std::size_t at, const QRectF& rect) const {
+    const auto name = state_.swatchName(at);
+    CanvasItem item;
+    item.rect = rect;
+    item.kind = swatch;
+    item.index = at;
+    item.role = QAccessible::ListItem;
+    item.name = oneLine(name);
+    item.value = code(at, name);
+    item.description = worded("%1 of %2").arg(at + 1).arg(state_.swatches().size());
+    item.selected = state_.selectedSwatch.value() == at;
+    return item;
 }
 
 std::vector<CanvasItem> PaletteCanvas::layoutItems(QSizeF size) const {
-    const auto stand = places(size);
+    stand_ = places(size);
     const auto count = state_.swatches().size();
     std::vector<CanvasItem> items;
-    items.reserve(stand.rects.size());
-    for (std::size_t i = 0; i < stand.rects.size(); ++i) {
-        CanvasItem item;
-        item.rect = stand.rects[i];
-        item.kind = swatch;
-        item.index = i;
-        if (i == count) {
-            item.kind = addCell;
-            item.index = 0;
-            item.role = QAccessible::Button;
-            item.name = worded("Add a swatch");
-        } else {
-            item.role = QAccessible::ListItem;
-            item.name = oneLine(state_.swatchName(i));
-            item.value = code(i);
-            item.description = worded("%1 of %2").arg(i + 1).arg(count);
-            item.selected = state_.selectedSwatch.value() == i;
-        }
-        items.push_back(std::move(item));
+    items.reserve(stand_.rects.size());
+    for (std::size_t i = 0; i < std::min(count, stand_.rects.size()); ++i)
+        items.push_back(itemOf(i, stand_.rects[i]));
+    if (stand_.rects.size() > count) {
+        CanvasItem add;
+        add.rect = stand_.rects.back();
+        add.kind = addCell;
+        add.role = QAccessible::Button;
+        add.name = worded("Add a swatch");
+        items.push_back(std::move(add));
     }
     return items;
 }
 
 SwatchLook PaletteCanvas::look(std::size_t at) const {
-    const auto& held = state_.swatches()[at];
+    const auto& item = items()[at];
     SwatchLook look;
     look.color = colorAt(at);
     look.vision = state_.vision;
-    look.name = oneLine(state_.swatchName(at));
-    look.code = code(at);
-    look.selected = state_.selectedSwatch.value() == at;
+    look.shape = stand_.shape;
+    look.name = item.name;
+    look.code = item.value;
+    look.selected = item.selected;
     look.codeFlashes = flashing_ == at;
     look.hidesName = field_ && renamed_ == at;
     look.leftBehind = state_.draggingSwatch.value() == at;
-    look.index = QString::number(at + 1);
-    if (!rows_) return look;
-    look.index.clear();
+    if (rows_)
+        markPin(look, at);
+    else
+        look.index = QString::number(at + 1);
+    return look;
+}
+
+void PaletteCanvas::markPin(SwatchLook& look, std::size_t at) const {
     const auto pins = state_.pinSwatchIDs();
-    const auto pin = std::find(pins.begin(), pins.end(), held.id);
-    if (pin == pins.end()) return look;
+    const auto pin = std::ranges::find(pins, state_.swatches()[at].id);
+    if (pin == pins.end()) return;
     const auto number = static_cast<std::size_t>(pin - pins.begin());
     look.index = QString::number(number + 1);
     look.pinned = true;
     const auto& found = state_.imageSource.value().found;
     look.ownPin = number < found.size() && found[number].isOwn;
-    return look;
+}
+
+void PaletteCanvas::paintGround(QPainter& painter, const QRect& dirty) {
+    Canvas::paintGround(painter, dirty);
+    if (!ui_.models.preferences().showsWatermark) return;
+    painter.setFont(theme().font(TextStyle::caption));
+    painter.setPen(theme().color(Token::ink3));
+    painter.drawText(QRectF(rect()).adjusted(0, height() - kMargin, -kMargin, 0),
+                     Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip,
+                     QStringLiteral("Tintra"));
+}
+
+void PaletteCanvas::paintAddCell(QPainter& painter, const CanvasItem& item, ItemState state) const {
+    const auto ink = theme().color(state.hovered || state.focused ? Token::ink : Token::ink3);
+    painter.setPen(QPen(theme().color(Token::edge), 1, Qt::DashLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(item.rect.adjusted(0.5, 0.5, -0.5, -0.5), metrics::kGroupRadius,
+                            metrics::kGroupRadius);
+    const auto middle = item.rect.center();
+    painter.drawPixmap(middle - QPointF(10, 22), theme().icon("add", 20, ink, devicePixelRatioF()));
+    painter.setFont(theme().font(TextStyle::body));
+    painter.setPen(ink);
+    painter.drawText(item.rect.adjusted(0, 24, 0, 0), Qt::AlignCenter, item.name);
+    if (state.focused)
+        paintFocusRing(painter, theme(), item.rect.adjusted(-2, -2, 2, 2), metrics::kGroupRadius);
+}
+
+std::vector<SwatchButton> PaletteCanvas::buttons(const CanvasItem& item, ItemState state) const {
+    std::vector<SwatchButton> shown;
+    if (!(state.hovered || state.focused) || !hasButtons(item)) return shown;
+    for (int i = 0; i < static_cast<int>(kButtons.size()); ++i)
+        shown.push_back({.icon = kButtons[static_cast<std::size_t>(i)],
+                         .hovered = state.hovered && hoveredButton_ == i,
+                         .pressed = state.hovered && pressedButton_ == i});
+    return shown;
+}
+
+bool PaletteCanvas::hasButtons(const CanvasItem& item) const {
+    const auto rects = ui_.painter.buttonRects(item.rect, stand_.shape, kButtons.size());
+    auto words = look(item.index);
+    // Buttons never hide the code; where there is no room the menu has the same.
+    const auto code = ui_.painter.codeRect(item.rect, words);
+    const bool isRow = stand_.shape == SwatchShape::row;
+    return isRow || rects.back().bottom() < code.top();
 }
 
 void PaletteCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemState state) {
     if (peeks_) return;
     if (item.kind == addCell) {
-        const auto ink = theme().color(state.hovered || state.focused ? Token::ink : Token::ink3);
-        painter.setPen(QPen(ink, 1, Qt::DashLine));
-        painter.drawRoundedRect(item.rect.adjusted(0.5, 0.5, -0.5, -0.5), metrics::kGroupRadius,
-                                metrics::kGroupRadius);
-        const auto middle = item.rect.center();
-        painter.drawPixmap(middle - QPointF(10, 24),
-                           theme().icon("add", 20, ink, devicePixelRatioF()));
-        painter.setFont(theme().font(TextStyle::body));
-        painter.setPen(ink);
-        painter.drawText(item.rect.adjusted(0, 24, 0, 24), Qt::AlignCenter, item.name);
+        paintAddCell(painter, item, state);
         return;
     }
-    const auto stand = places(QSizeF(size()));
     auto drawn = look(item.index);
-    drawn.shape = stand.shape;
     drawn.focused = state.focused;
-    const auto group =
-        std::find_if(stand.groups.begin(), stand.groups.end(),
-                     [&](const QRectF& of) { return of.contains(item.rect.center()); });
-    drawn.radii = radiiWithin(item.rect, group == stand.groups.end() ? item.rect : *group,
-                              metrics::kGroupRadius);
-    if (state.hovered || state.focused) {
-        const int shownButtons = stand.shape == SwatchShape::onSide ? 0 : 5;
-        for (int i = 0; i < shownButtons; ++i)
-            drawn.buttons.push_back({.icon = kButtons[static_cast<std::size_t>(i)],
-                                     .hovered = state.hovered && hoveredButton_ == i,
-                                     .pressed = state.hovered && pressedButton_ == i});
-        // In a row the buttons take the place of the code.
-        if (stand.shape == SwatchShape::row) drawn.code.clear();
+    const auto group = std::ranges::find_if(
+        stand_.groups, [&](const QRectF& of) { return of.contains(item.rect.center()); });
+    const bool isAlone = group == stand_.groups.end();
+    drawn.radii = radiiWithin(item.rect, isAlone ? item.rect : *group, metrics::kGroupRadius);
+    drawn.buttons = buttons(item, state);
+    if (!drawn.buttons.empty()) {
+        // In a row the buttons take the place of the code, on a side that of a long name.
+        if (stand_.shape == SwatchShape::row) drawn.code.clear();
+        if (stand_.shape == SwatchShape::onSide) drawn.hidesName = true;
     }
     ui_.painter.paint(painter, item.rect, drawn);
-    if (group != stand.groups.end()) {
-        painter.setClipRect(item.rect);
-        ui_.painter.hairline(painter, *group, metrics::kGroupRadius);
-        painter.setClipping(false);
-    } else {
-        ui_.painter.hairline(painter, item.rect, metrics::kGroupRadius);
-    }
-    if (drawn.selected && stand.shape != SwatchShape::row) {
+    if (drawn.leftBehind) return;
+    painter.setClipRect(item.rect);
+    ui_.painter.hairline(painter, isAlone ? item.rect : *group, metrics::kGroupRadius);
+    painter.setClipping(false);
+    if (drawn.selected && stand_.shape != SwatchShape::row) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(theme().color(Token::ink));
         painter.drawRoundedRect(
@@ -234,17 +270,13 @@ void PaletteCanvas::paintOverlay(QPainter& painter) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(theme().color(Token::ink));
         painter.drawRoundedRect(insertionBar(), 2, 2);
-    } else if (wholeTarget_) {
-        painter.setPen(QPen(theme().color(Token::ink), 3));
-        painter.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
     }
 }
 
 void PaletteCanvas::syncSelection() {
     const auto selected = state_.selectedSwatch.value();
-    relayout();
-    if (!selected) return;
-    const auto item = find(swatch, *selected);
+    const auto item = selected ? find(swatch, *selected) : -1;
+    markSelected(item);
     if (item >= 0) setFocused(item);
 }
 
@@ -256,7 +288,7 @@ void PaletteCanvas::focusMoved(int item) {
 }
 
 int PaletteCanvas::neighbour(int from, Qt::Key key) const {
-    const auto stand = places(QSizeF(size())).shape;
+    const auto stand = stand_.shape;
     const auto last = static_cast<int>(items().size()) - 1;
     // Along the palette rather than along the rows: left of the first in a row is the last above.
     const bool isRow = stand == SwatchShape::row;
@@ -268,12 +300,14 @@ int PaletteCanvas::neighbour(int from, Qt::Key key) const {
 }
 
 void PaletteCanvas::flashCode() {
+    const auto repaint = [this](std::optional<std::size_t> at) {
+        if (at) repaintItem(find(swatch, *at));
+    };
+    repaint(flashing_);
     flashing_ = state_.selectedSwatch.value();
-    relayout();
-    flash_ = ui_.services.mainLoop.after(kFlash, [this] {
-        flashing_.reset();
-        relayout();
-    });
+    repaint(flashing_);
+    flash_ = ui_.services.mainLoop.after(
+        kFlash, [this, repaint] { repaint(std::exchange(flashing_, std::nullopt)); });
 }
 
 } // namespace tintra

@@ -5,6 +5,7 @@
 #include "ui/palette/SwatchLayout.h"
 #include "ui/shared/Canvas.h"
 #include "ui/shared/ColourMime.h"
+#include "ui/shared/Subscriptions.h"
 
 #include <QLineEdit>
 #include <QPointer>
@@ -12,6 +13,8 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace tintra {
@@ -32,14 +35,20 @@ public:
     void setPeeking(bool peeks);
     void beginRename(std::size_t at);
 
-    /// Is asked for the menu of the selected swatch, at a place of the screen.
-    std::function<void(QPoint)> contextMenu;
+    /// As it is shown: while it is edited, as the editor has it.
+    WashColor colorAt(std::size_t at) const;
+
+    /// Is asked for a menu at a place of the screen, of the selected swatch or of the canvas.
+    std::function<void(QPoint, bool onSwatch)> contextMenu;
+    /// Is told from which place to which a swatch of this palette would move; none: it does not.
+    std::function<void(std::optional<std::pair<std::size_t, std::size_t>>)> moving;
     /// Is told what to bring into view.
     std::function<void(const QRect&)> reveal;
 
 protected:
     std::vector<CanvasItem> layoutItems(QSizeF size) const override;
     void paintItem(QPainter& painter, const CanvasItem& item, ItemState state) override;
+    void paintGround(QPainter& painter, const QRect& dirty) override;
     void paintOverlay(QPainter& painter) override;
     void focusMoved(int item) override;
     void hoverMoved(int item, QPointF place) override;
@@ -61,17 +70,22 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    struct Subscriptions;
-
+    void subscribe();
     SwatchPlaces places(QSizeF size) const;
     SwatchLook look(std::size_t at) const;
-    QString code(std::size_t at) const;
-    WashColor colorAt(std::size_t at) const;
+    QString code(std::size_t at, const std::string& name) const;
+    CanvasItem itemOf(std::size_t at, const QRectF& rect) const;
+    void paintAddCell(QPainter& painter, const CanvasItem& item, ItemState state) const;
+    bool hasButtons(const CanvasItem& item) const;
+    std::vector<SwatchButton> buttons(const CanvasItem& item, ItemState state) const;
+    /// The number of its pin, for a swatch that has one.
+    void markPin(SwatchLook& look, std::size_t at) const;
     void setWhole();
     void syncSelection();
     std::optional<int> buttonAt(int item, QPointF place) const;
     void press(std::size_t swatch, int button);
     void clickWords(std::size_t swatch, QPointF place);
+    QRect fieldPlace(std::size_t at) const;
     void endRename(bool keep);
     void startDrag(std::size_t at);
     std::size_t insertionAt(QPointF place) const;
@@ -88,12 +102,13 @@ private:
     bool wasSelected_ = false;           ///< when it was pressed
     QPointF pressedAt_;
     std::optional<std::size_t> insertion_; ///< where a drop would go
-    bool wholeTarget_ = false;             ///< a drop would go to the palette as a whole
+    std::optional<Drag> offered_;          ///< what is dragged over the canvas
     std::optional<std::size_t> flashing_;  ///< whose code was just copied
     std::unique_ptr<DelayedTask> flash_;
     QPointer<QLineEdit> field_;
     std::size_t renamed_ = 0;
-    std::unique_ptr<Subscriptions> subscriptions_;
+    mutable SwatchPlaces stand_; ///< as the items were laid out last
+    Subscriptions subscriptions_;
 };
 
 } // namespace tintra

@@ -13,11 +13,6 @@
 namespace tintra {
 namespace {
 
-/// Ctrl asks to move a swatch of another palette instead of copying it.
-bool asksToMove(const QDropEvent& event) {
-    return event.modifiers().testFlag(Qt::ControlModifier);
-}
-
 bool isFrom(const Drag& drag, const Uuid& window) {
     const auto* swatch = std::get_if<DragOfSwatch>(&drag.source);
     return swatch && swatch->origin.windowID == window;
@@ -33,23 +28,23 @@ void PaletteCanvas::startDrag(std::size_t at) {
     auto shape = look(at);
     const bool fromStrip = items().size() > 12;
     QDrag drag(this);
-    drag.setMimeData(mimeOf(dragged, code(at)).release());
+    drag.setMimeData(mimeOf(dragged, shape.code).release());
     drag.setPixmap(ui_.painter.card(shape, fromStrip ? QSize(96, 72) : QSize(128, 96), false,
                                     devicePixelRatioF()));
     drag.setHotSpot({30, 30});
     state_.draggingSwatch = at;
-    relayout();
+    update();
     const QPointer<PaletteCanvas> self(this);
     drag.exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
     // The window may have been closed in the middle of the drag.
     if (!self) return;
     state_.draggingSwatch = std::nullopt;
     setInsertion(std::nullopt);
-    relayout();
+    update();
 }
 
 std::size_t PaletteCanvas::insertionAt(QPointF place) const {
-    const auto shape = places(QSizeF(size())).shape;
+    const auto shape = stand_.shape;
     const auto count = state_.swatches().size();
     for (std::size_t i = 0; i < count; ++i) {
         const auto& in = items()[i].rect;
@@ -71,11 +66,11 @@ QRectF PaletteCanvas::insertionBar() const {
     if (!insertion_ || count == 0) return {};
     const bool atEnd = *insertion_ >= count;
     const auto in = items()[atEnd ? count - 1 : *insertion_].rect;
-    if (places(QSizeF(size())).shape == SwatchShape::row) {
+    if (stand_.shape == SwatchShape::row) {
         const auto y = atEnd ? in.bottom() : in.top();
         return {in.left(), y - kThick / 2, in.width(), kThick};
     }
-    const bool isTile = display_ == PaletteDisplay::tiles;
+    const bool isTile = stand_.shape == SwatchShape::tile;
     const auto x = atEnd ? in.right() + (isTile ? 6 : 0) : in.left() - (isTile ? 6 : 0);
     return {x - kThick / 2, in.top(), kThick, in.height()};
 }
@@ -89,42 +84,49 @@ void PaletteCanvas::setInsertion(std::optional<std::size_t> at) {
     repaintBar();
     insertion_ = at;
     repaintBar();
+    if (!moving) return;
+    const auto from = state_.draggingSwatch.value();
+    if (from && at)
+        moving(std::pair(*from, *at > *from ? *at - 1 : *at));
+    else
+        moving(std::nullopt);
 }
 
+// What is no single colour goes to the window, which takes it wherever it falls.
+
 void PaletteCanvas::dragEnterEvent(QDragEnterEvent* event) {
-    if (isUnderstood(*event->mimeData())) event->acceptProposedAction();
+    const auto* mime = event->mimeData();
+    event->setAccepted(mime->hasFormat(QString::fromLatin1(kColourMimeType)) || mime->hasColor());
+    offered_ = event->isAccepted() ? dropped(*mime).colour : std::nullopt;
 }
 
 void PaletteCanvas::dragMoveEvent(QDragMoveEvent* event) {
-    const auto* mime = event->mimeData();
-    if (mime->hasFormat(QString::fromLatin1(kColourMimeType)) || mime->hasColor()) {
-        setInsertion(insertionAt(event->position()));
-    } else {
-        wholeTarget_ = true;
-        state_.fileIsOver = true;
-        update();
-    }
+    if (!offered_) return;
+    const bool moves = asksToMove(*event) || isFrom(*offered_, state_.id());
     event->acceptProposedAction();
+    if (state_.refusal(*offered_, moves)) {
+        // The cursor says no, but the drop is let come, to be told why.
+        event->setDropAction(Qt::IgnoreAction);
+        event->accept();
+        setInsertion(std::nullopt);
+        return;
+    }
+    setInsertion(insertionAt(event->position()));
+    if (reveal) reveal(QRect(event->position().toPoint(), QSize(1, 1)).adjusted(0, -24, 0, 24));
 }
 
 void PaletteCanvas::dragLeaveEvent(QDragLeaveEvent*) {
     setInsertion(std::nullopt);
-    wholeTarget_ = false;
-    state_.fileIsOver = false;
-    update();
+    offered_.reset();
 }
 
 void PaletteCanvas::dropEvent(QDropEvent* event) {
     const auto at = insertionAt(event->position());
-    dragLeaveEvent(nullptr);
     const auto drop = dropped(*event->mimeData());
-    if (drop.colour) {
-        const auto moving = asksToMove(*event) || isFrom(*drop.colour, state_.id());
-        if (state_.receive(*drop.colour, at, moving)) event->acceptProposedAction();
-        return;
-    }
-    event->acceptProposedAction();
-    receiveFiles(state_, drop);
+    dragLeaveEvent(nullptr);
+    if (!drop.colour) return;
+    const bool moves = asksToMove(*event) || isFrom(*drop.colour, state_.id());
+    if (receiveColour(ui_, state_, *drop.colour, at, moves)) event->acceptProposedAction();
 }
 
 } // namespace tintra

@@ -21,10 +21,9 @@ constexpr std::size_t kButtonCount = 5;
 
 std::optional<int> PaletteCanvas::buttonAt(int item, QPointF place) const {
     if (item < 0 || items()[static_cast<std::size_t>(item)].kind != swatch) return std::nullopt;
-    const auto shape = places(QSizeF(size())).shape;
-    if (shape == SwatchShape::onSide) return std::nullopt;
-    const auto rects =
-        ui_.painter.buttonRects(items()[static_cast<std::size_t>(item)].rect, shape, kButtonCount);
+    const auto& one = items()[static_cast<std::size_t>(item)];
+    if (!hasButtons(one)) return std::nullopt;
+    const auto rects = ui_.painter.buttonRects(one.rect, stand_.shape, kButtonCount);
     for (std::size_t i = 0; i < rects.size(); ++i)
         if (rects[i].contains(place)) return static_cast<int>(i);
     return std::nullopt;
@@ -44,7 +43,7 @@ void PaletteCanvas::press(std::size_t at, int button) {
     const auto held = state_.swatches()[at];
     switch (button) {
     case copyButton:
-        state_.copy(held.color, held.name);
+        state_.copy(colorAt(at), held.name);
         break;
     case editButton:
         state_.editSwatch(at);
@@ -53,7 +52,7 @@ void PaletteCanvas::press(std::size_t at, int button) {
         state_.toggleBenchedSwatch(at);
         break;
     case contrastButton:
-        state_.sendToContrast(held.color, held.name, state_.place());
+        state_.sendToContrast(colorAt(at), held.name, state_.place());
         break;
     case removeButton:
         state_.removeSwatch(at);
@@ -110,12 +109,11 @@ void PaletteCanvas::mouseReleaseEvent(QMouseEvent* event) {
 void PaletteCanvas::clickWords(std::size_t at, QPointF place) {
     const auto item = find(swatch, at);
     if (item < 0) return;
-    auto words = look(at);
-    words.shape = places(QSizeF(size())).shape;
+    const auto words = look(at);
     const auto in = items()[static_cast<std::size_t>(item)].rect;
     const auto held = state_.swatches()[at];
     if (ui_.painter.codeRect(in, words).contains(place))
-        state_.copy(held.color, held.name);
+        state_.copy(colorAt(at), held.name);
     else if (wasSelected_ && ui_.painter.nameRect(in, words).contains(place))
         beginRename(at);
 }
@@ -135,10 +133,11 @@ void PaletteCanvas::contextMenuEvent(QContextMenuEvent* event) {
     const auto item =
         event->reason() == QContextMenuEvent::Keyboard ? focused() : itemAt(event->pos());
     if (item >= 0) setFocused(item);
+    const bool onSwatch = item >= 0 && items()[static_cast<std::size_t>(item)].kind == swatch;
     const auto at = event->reason() == QContextMenuEvent::Keyboard && item >= 0
                         ? items()[static_cast<std::size_t>(item)].rect.center().toPoint()
                         : event->pos();
-    if (contextMenu) contextMenu(mapToGlobal(at));
+    if (contextMenu) contextMenu(mapToGlobal(at), onSwatch);
 }
 
 void PaletteCanvas::keyPressEvent(QKeyEvent* event) {
@@ -167,43 +166,59 @@ void PaletteCanvas::focusOutEvent(QFocusEvent* event) {
 }
 
 void PaletteCanvas::beginRename(std::size_t at) {
-    const auto item = find(swatch, at);
-    if (item < 0 || (field_ && renamed_ == at)) return;
+    if (field_ && renamed_ == at) return;
     if (field_) endRename(true);
-    auto words = look(at);
-    words.shape = places(QSizeF(size())).shape;
-    const auto in = items()[static_cast<std::size_t>(item)].rect;
-    auto place = ui_.painter.nameRect(in, words);
-    constexpr int kLeastWidth = 140;
-    // A field stands upright over a narrow column, as wide as a name needs.
-    const auto width = std::max<qreal>(in.width() - 8, kLeastWidth);
-    const auto left = std::clamp<qreal>(in.center().x() - width / 2, 0, this->width() - width);
-    const auto middle = words.shape == SwatchShape::onSide ? in.bottom() - 60 : place.center().y();
-    const auto height = theme().scaled(28);
+    if (find(swatch, at) < 0) relayout();
+    if (find(swatch, at) < 0) return;
+    const auto& given = state_.swatches()[at].name;
     renamed_ = at;
     field_ = new QLineEdit(this);
     field_->setAccessibleName(worded("Name of the swatch"));
     field_->setFont(theme().font(TextStyle::name));
-    field_->setGeometry(static_cast<int>(left), static_cast<int>(middle) - height / 2,
-                        static_cast<int>(width), height);
-    const auto& given = state_.swatches()[at].name;
+    field_->setGeometry(fieldPlace(at));
     field_->setText(given ? fromUtf8(*given) : QString());
-    field_->setPlaceholderText(oneLine(state_.swatchName(at)));
+    field_->setPlaceholderText(items()[at].name);
     field_->selectAll();
-    connect(field_, &QLineEdit::editingFinished, this, [this] { endRename(true); });
     field_->installEventFilter(this);
+    connect(field_, &QLineEdit::editingFinished, this, [this] { endRename(true); });
     field_->show();
     field_->setFocus();
-    relayout();
+    repaintItem(find(swatch, at));
+}
+
+QRect PaletteCanvas::fieldPlace(std::size_t at) const {
+    constexpr int kLeastWidth = 140, kAboveFoot = 60, kBeside = 4;
+    const auto& in = items()[at].rect;
+    const auto words = ui_.painter.nameRect(in, look(at));
+    const auto high = theme().scaled(28);
+    if (stand_.shape == SwatchShape::row)
+        return QRectF(words.left() - 8, in.center().y() - high / 2.0,
+                      std::max<qreal>(words.width(), kLeastWidth), high)
+            .toRect();
+    // Over a narrow column the field stands upright, as wide as a name needs.
+    const auto wide =
+        std::min<qreal>(std::max<qreal>(in.width() - 2 * kBeside, kLeastWidth), width());
+    const auto left = std::clamp<qreal>(in.center().x() - wide / 2, 0, width() - wide);
+    const auto middle =
+        stand_.shape == SwatchShape::onSide ? in.bottom() - kAboveFoot : words.center().y();
+    return QRectF(left, middle - high / 2.0, wide, high).toRect();
 }
 
 bool PaletteCanvas::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == field_ && event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    if (watched != field_ || event->type() != QEvent::KeyPress)
+        return Canvas::eventFilter(watched, event);
+    // The keys that end it must not go on to the canvas, where they mean something else.
+    switch (static_cast<QKeyEvent*>(event)->key()) {
+    case Qt::Key_Escape:
         endRename(false);
         return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        endRename(true);
+        return true;
+    default:
+        return false;
     }
-    return Canvas::eventFilter(watched, event);
 }
 
 void PaletteCanvas::endRename(bool keep) {
@@ -211,13 +226,14 @@ void PaletteCanvas::endRename(bool keep) {
     auto* field = field_.data();
     field_ = nullptr;
     const auto name = toUtf8(field->text());
+    const bool hadKeyboard = field->hasFocus();
     field->disconnect(this);
     field->hide();
     // The field may be in the middle of the event that ends it.
     field->deleteLater();
     state_.renamingSwatch = std::nullopt;
     if (keep && renamed_ < state_.swatches().size()) state_.renameSwatch(renamed_, name);
-    setFocus();
+    if (hadKeyboard) setFocus(Qt::OtherFocusReason);
     relayout();
 }
 

@@ -3,14 +3,14 @@
 #include "colour/WashColor.h"
 #include "state/AppState.h"
 #include "ui/Ui.h"
+#include "ui/actions/ActionTable.h"
 
 #include <QWidget>
 #include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
-
-class QMenuBar;
+#include <vector>
 
 namespace tintra {
 
@@ -45,6 +45,8 @@ public:
     void setPeeking(bool peeks);
     bool showsMenuBar() const;
     void toggleMenuBar();
+    /// Gives the keyboard to the menu bar, shown until it is done with.
+    void openMenuBar();
     /// Gives the keyboard to the next (1) or the previous (-1) region.
     void focusRegion(int by);
     void showContextMenu();
@@ -57,9 +59,30 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     struct Parts;
+
+    ActionContext context();
+    void assemble();
+    void subscribe();
+    void syncTitle();
+    void syncPanels();
+    void syncCollapsed();
+    void syncOnTop();
+    /// The keyboard is where single letters are commands.
+    bool isOnCanvas() const;
+    std::vector<QWidget*> regions() const;
+    // Sizes and places (PaletteWindowFrame.cpp)
+    void restoreFrame();
+    void takeModeSize();
+    void growForEditor();
+    void keepFrame();
 
     Ui& ui_;
     AppState& state_;

@@ -62,6 +62,20 @@ void Canvas::setFocused(int item) {
         QAccessible::updateAccessibility(&event);
     }
     focusMoved(item);
+    if (changed) changed();
+}
+
+void Canvas::markSelected(int item) {
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+        const bool selected = static_cast<int>(i) == item;
+        if (items_[i].selected == selected) continue;
+        items_[i].selected = selected;
+        repaintItem(static_cast<int>(i));
+        if (!selected) continue;
+        QAccessibleEvent event(this, QAccessible::Selection);
+        event.setChild(item);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 bool Canvas::showsFocus() const {
@@ -88,6 +102,7 @@ void Canvas::layOut() {
         QAccessibleEvent event(this, QAccessible::ObjectReorder);
         QAccessible::updateAccessibility(&event);
     }
+    if (changed) changed();
 }
 
 void Canvas::repaintItem(int item) {
@@ -169,6 +184,11 @@ void Canvas::leaveEvent(QEvent*) {
 
 void Canvas::keyPressEvent(QKeyEvent* event) {
     const auto key = static_cast<Qt::Key>(event->key());
+    // With Ctrl or Alt an arrow is a command.
+    if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
     switch (key) {
     case Qt::Key_Left:
     case Qt::Key_Right:

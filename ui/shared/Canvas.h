@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -48,6 +49,8 @@ public:
     void repaintItem(int item);
 
     Theme& theme() const { return theme_; }
+    /// Is told when the focus has come to another item or items were laid out anew.
+    std::function<void()> changed;
     /// What screen readers call the whole, and its role (List unless set).
     QAccessible::Role containerRole = QAccessible::List;
 
@@ -69,6 +72,8 @@ protected:
     /// The focus or the pointer has come to an item (-1: to none).
     virtual void focusMoved(int /*item*/) {}
     virtual void hoverMoved(int /*item*/, QPointF /*place*/) {}
+    /// Makes one item the selected one (-1: none), without laying out anew.
+    void markSelected(int item);
     /// How far beyond its rectangle an item paints, px.
     virtual int overhang() const { return 6; }
 

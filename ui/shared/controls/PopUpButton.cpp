@@ -32,12 +32,11 @@ void PopUpButton::setInverted(bool inverted) {
 }
 
 void PopUpButton::openMenu() {
-    QMenu menu(this);
-    if (fill) fill(menu);
-    if (menu.isEmpty()) return;
-    menu.setMinimumWidth(width());
-    // Above the button where there is no room below, as at the foot of a window.
-    menu.exec(mapToGlobal(QPoint(0, height() + 2)));
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (fill) fill(*menu);
+    menu->setMinimumWidth(width());
+    menu->popup(mapToGlobal(QPoint(0, height() + 2)));
 }
 
 QSize PopUpButton::sizeHint() const {

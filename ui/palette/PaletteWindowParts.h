@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ui/palette/PaletteBody.h"
+#include "ui/palette/PaletteFoot.h"
+#include "ui/palette/PaletteToolBar.h"
+#include "ui/palette/PaletteWindow.h"
+#include "ui/shared/NoticeBar.h"
+#include "ui/shared/Subscriptions.h"
+
+#include <QMenuBar>
+#include <functional>
+
+namespace tintra {
+
+/// The pieces of a palette window; the window owns them.
+struct PaletteWindow::Parts {
+    QWidget* unfolded = nullptr; ///< all but the strip
+    QMenuBar* menuBar = nullptr;
+    PaletteToolBar* toolBar = nullptr;
+    QWidget* seedRow = nullptr;
+    PaletteBody* body = nullptr;
+    QWidget* pictureBar = nullptr;
+    PaletteFoot* foot = nullptr;
+    NoticeBar* notices = nullptr;
+    QWidget* strip = nullptr; ///< made when the window is first collapsed
+    std::function<void()> openPasteSheet;
+
+    bool pinsMenuBar = false;
+    bool altAlone = false; ///< Alt is held and nothing else was pressed
+    bool isClosing = false;
+    bool isPlacing = false; ///< the window places itself: not the user's doing
+    bool isFolded = false;
+    int grownBy = 0; ///< px by which the open editor made it wider
+    Subscriptions subscriptions;
+};
+
+} // namespace tintra
