@@ -28,6 +28,7 @@ constexpr std::array<std::string_view, 5> kButtons{"copy", "editor", "bench", "c
 
 PaletteCanvas::PaletteCanvas(Ui& ui, AppState& state, QWidget* parent)
     : Canvas(ui.theme, parent), ui_(ui), state_(state) {
+    setObjectName(QStringLiteral("palette canvas"));
     setAccessibleName(worded("Palette"));
     setAcceptDrops(true);
     subscribe();
@@ -165,9 +166,11 @@ SwatchLook PaletteCanvas::look(std::size_t at) const {
     look.codeFlashes = flashing_ == at;
     look.hidesName = field_ && renamed_ == at;
     look.leftBehind = state_.draggingSwatch.value() == at;
+    // There is room for the digits only; what is copied has the mark.
+    if (look.shape == SwatchShape::onSide && look.code.startsWith(u'#')) look.code.remove(0, 1);
     if (rows_)
         markPin(look, at);
-    else
+    else if (look.shape != SwatchShape::row)
         look.index = QString::number(at + 1);
     return look;
 }
@@ -220,11 +223,12 @@ std::vector<SwatchButton> PaletteCanvas::buttons(const CanvasItem& item, ItemSta
 
 bool PaletteCanvas::hasButtons(const CanvasItem& item) const {
     const auto rects = ui_.painter.buttonRects(item.rect, stand_.shape, kButtons.size());
-    auto words = look(item.index);
+    const auto words = look(item.index);
     // Buttons never hide the code; where there is no room the menu has the same.
     const auto code = ui_.painter.codeRect(item.rect, words);
-    const bool isRow = stand_.shape == SwatchShape::row;
-    return isRow || rects.back().bottom() < code.top();
+    if (stand_.shape != SwatchShape::row) return rects.back().bottom() < code.top();
+    constexpr int kLeastName = 72;
+    return rects.front().left() - item.rect.left() >= kLeastName + (words.pinned ? 36 : 0);
 }
 
 void PaletteCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemState state) {

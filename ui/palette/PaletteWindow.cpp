@@ -53,6 +53,7 @@ PaletteWindow::PaletteWindow(Ui& ui, AppState& state)
     restoreFrame();
     syncOnTop();
     syncCollapsed();
+    parts_->body->main()->setFocus();
 }
 
 PaletteWindow::~PaletteWindow() = default;

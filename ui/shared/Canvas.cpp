@@ -212,8 +212,11 @@ void Canvas::keyPressEvent(QKeyEvent* event) {
 
 void Canvas::focusInEvent(QFocusEvent* event) {
     const auto reason = event->reason();
-    focusByKeyboard_ = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                       reason == Qt::ShortcutFocusReason || reason == Qt::OtherFocusReason;
+    // A window or a menu that comes and goes between changes nothing.
+    const bool returns = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+    focusByKeyboard_ = (returns && focusByKeyboard_) || reason == Qt::TabFocusReason ||
+                       reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason ||
+                       reason == Qt::OtherFocusReason;
     if (focused_ < 0 && focusByKeyboard_) setFocused(neighbour(-1, Qt::Key_Home));
     repaintItem(focused_);
     QWidget::focusInEvent(event);

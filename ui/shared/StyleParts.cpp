@@ -195,7 +195,7 @@ void StyleParts::menuBarItem(const QStyleOptionMenuItem& option) const {
     }
     painter_.setFont(theme_.font(TextStyle::body));
     painter_.setPen(theme_.color(open ? Token::onsel : Token::ink));
-    painter_.drawText(option.rect, Qt::AlignCenter | Qt::TextShowMnemonic, option.text);
+    painter_.drawText(option.rect, Qt::AlignCenter | Qt::TextHideMnemonic, option.text);
 }
 
 void StyleParts::scrollBar(const QStyleOptionSlider& option, const QRect& handle) const {

@@ -1,6 +1,7 @@
 #include "ui/shared/SwatchPainter.h"
 
 #include "state/Preferences.h"
+#include "ui/shared/Controls.h"
 #include "ui/shared/Figures.h"
 #include "ui/shared/SwatchWords.h"
 #include "ui/shared/Theme.h"
@@ -12,8 +13,7 @@
 namespace tintra {
 namespace {
 
-constexpr int kCheck = 12;     ///< a square of the checkerboard, px
-constexpr int kWordsFoot = 60; ///< the lowest part of a swatch, where words stand on a flat colour
+constexpr int kCheck = 12; ///< a square of the checkerboard, px
 constexpr int kButton = 28, kButtonGap = 2, kInset = 8;
 
 QPainterPath rounded(const QRectF& in, const std::array<int, 4>& radii) {
@@ -147,13 +147,14 @@ void SwatchPainter::paint(QPainter& painter, const QRectF& in, const SwatchLook&
     fill(painter, in, look.color, look.vision, look.radii);
     const auto under = flat(look.color, look.vision);
     const auto ink = toQColor(under.readableForeground());
-    if (!look.color.isOpaque() && look.shape != SwatchShape::cell) {
-        // Words never stand on the backdrop's pattern.
-        const auto foot = std::min<qreal>(in.height(), theme_.scaled(kWordsFoot));
-        fillShape(painter, in.adjusted(0, in.height() - foot, 0, 0),
-                  {0, 0, look.radii[2], look.radii[3]}, toQColor(under));
+    const SwatchWords words(theme_, in, look);
+    if (!look.color.isOpaque()) {
+        painter.save();
+        painter.setClipPath(rounded(in, look.radii), Qt::IntersectClip);
+        painter.fillRect(words.ground(), toQColor(under));
+        painter.restore();
     }
-    SwatchWords(theme_, in, look).paint(painter, ink, toQColor(under));
+    words.paint(painter, ink, toQColor(under));
 
     const auto places = buttonRects(in, look.shape, look.buttons.size());
     for (std::size_t i = 0; i < places.size(); ++i) {
@@ -169,16 +170,24 @@ void SwatchPainter::paint(QPainter& painter, const QRectF& in, const SwatchLook&
         painter.drawPixmap(places[i].center() - QPointF(10, 10), icon);
     }
 
+    paintRings(painter, in, look, ink);
+}
+
+void SwatchPainter::paintRings(QPainter& painter, const QRectF& in, const SwatchLook& look,
+                               const QColor& ink) const {
     painter.setBrush(Qt::NoBrush);
-    if (look.focused) {
+    // A swatch that stands by itself has room for a ring around it.
+    if (look.focused && look.shape == SwatchShape::tile)
+        paintFocusRing(painter, theme_, in.adjusted(-2, -2, 2, 2), metrics::kGroupRadius + 2);
+    if (look.focused && look.shape != SwatchShape::tile) {
         const auto other = ink == QColor(Qt::black) ? QColor(Qt::white) : QColor(Qt::black);
         painter.setPen(QPen(ink, 3));
-        painter.drawRect(in.adjusted(1.5, 1.5, -1.5, -1.5));
+        painter.drawPath(rounded(in.adjusted(1.5, 1.5, -1.5, -1.5), look.radii));
         painter.setPen(QPen(other, 2));
-        painter.drawRect(in.adjusted(4, 4, -4, -4));
+        painter.drawPath(rounded(in.adjusted(4, 4, -4, -4), look.radii));
     } else if (look.selected) {
         painter.setPen(QPen(ink, 2));
-        painter.drawRect(in.adjusted(1, 1, -1, -1));
+        painter.drawPath(rounded(in.adjusted(1, 1, -1, -1), look.radii));
     }
 }
 

@@ -80,6 +80,9 @@ public:
     QPixmap card(const SwatchLook& look, QSize size, bool refused, qreal ratio) const;
 
 private:
+    void paintRings(QPainter& painter, const QRectF& in, const SwatchLook& look,
+                    const QColor& ink) const;
+
     const Theme& theme_;
     const Preferences& preferences_;
 };

@@ -14,6 +14,8 @@ namespace {
 constexpr int kInset = 12;    ///< of words from the edges of a swatch, px
 constexpr int kMark = 24;     ///< the circle or square around a pin's number
 constexpr int kRowIndex = 36; ///< what the number takes of a row
+constexpr int kButton = 28, kButtonGap = 2;
+constexpr int kFoot = 60; ///< the least height of the words' ground
 
 bool isAtFoot(SwatchShape shape) {
     return shape == SwatchShape::column || shape == SwatchShape::tile ||
@@ -91,8 +93,10 @@ QRectF SwatchWords::name() const {
     }
     case SwatchShape::row: {
         const auto left = in_.left() + (look_.index.isEmpty() ? kInset : kInset + kRowIndex);
-        return {left, in_.center().y() - line / 2,
-                std::max<qreal>(0, codePlace.left() - kInset - left), line};
+        const auto buttons =
+            static_cast<int>(look_.buttons.size()) * (theme_.scaled(kButton) + kButtonGap);
+        const auto right = std::min(codePlace.left(), in_.right() - buttons) - kInset;
+        return {left, in_.center().y() - line / 2, std::max<qreal>(0, right - left), line};
     }
     case SwatchShape::bandCell:
     case SwatchShape::cell:
@@ -108,6 +112,27 @@ QRectF SwatchWords::indexRect() const {
     if (look_.pinned) return {in_.left() + kInset, in_.top() + kInset, kMark, kMark};
     const auto width = figuresWidth(theme_.font(TextStyle::caption), look_.index);
     return {in_.left() + kInset, in_.top() + kInset, width, line};
+}
+
+QRectF SwatchWords::ground() const {
+    const qreal least = std::min<qreal>(in_.height(), theme_.scaled(kFoot));
+    switch (look_.shape) {
+    case SwatchShape::cell:
+        return {};
+    case SwatchShape::row:
+        return {in_.left(), in_.center().y() - least / 2, in_.width(), least};
+    case SwatchShape::onSide: {
+        const auto words =
+            QFontMetricsF(theme_.font(TextStyle::name)).horizontalAdvance(look_.name);
+        const auto place = name();
+        const auto top = place.bottom() - std::min(words, place.height()) - kInset / 2.0;
+        return QRectF(QPointF(in_.left(), std::max(in_.top(), top)), in_.bottomRight());
+    }
+    default: {
+        const auto top = std::min(in_.bottom() - least, name().top() - kInset / 3.0);
+        return QRectF(QPointF(in_.left(), std::max(in_.top(), top)), in_.bottomRight());
+    }
+    }
 }
 
 void SwatchWords::paintIndex(QPainter& painter, const QColor& ink, const QColor& ground) const {

@@ -15,6 +15,8 @@ public:
     /// In the coordinates of the swatch, rotated shapes included; empty where a word has no room.
     QRectF name() const;
     QRectF code() const;
+    /// What of a translucent swatch is flat, so that no word stands on the backdrop's pattern.
+    QRectF ground() const;
 
     /// In `ink` on `ground`, the flat colour beneath.
     void paint(QPainter& painter, const QColor& ink, const QColor& ground) const;
