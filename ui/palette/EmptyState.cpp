@@ -1,0 +1,216 @@
+#include "ui/palette/EmptyState.h"
+
+#include "ui/actions/ActionTable.h"
+#include "ui/shared/Controls.h"
+#include "ui/shared/Text.h"
+#include "ui/shared/Theme.h"
+
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTextLayout>
+#include <algorithm>
+#include <utility>
+
+namespace tintra {
+namespace {
+
+constexpr int kQuoteWidth = 440, kActionWidth = 324, kAction = 36, kLowestAction = 24;
+constexpr int kMargin = 12, kAuthorGap = 10, kActionsGap = 34, kHintGap = 12;
+constexpr int kPadding = 14, kIcon = 20, kWordsAt = 46;
+
+/// What to begin with.
+struct Beginning {
+    const char* icon;
+    const char* text;
+    ActionId action; ///< whose key is shown
+    std::function<void()> EmptyState::*perform;
+};
+constexpr std::array kBeginnings{
+    Beginning{"paste", "Type or paste values", ActionId::typeOrPaste, &EmptyState::typeOrPaste},
+    Beginning{"picture", "Open a picture", ActionId::openPicture, &EmptyState::openPicture},
+    Beginning{"folder", "Open a palette…", ActionId::open, &EmptyState::openPalette},
+};
+
+QStringList linesOf(const QString& text, const QFont& font, qreal width) {
+    QStringList lines;
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    for (auto line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        lines.push_back(text.mid(line.textStart(), line.textLength()).trimmed());
+    }
+    layout.endLayout();
+    return lines;
+}
+
+/// As many lines as the width asks for, of lengths as even as can be.
+QStringList evenLinesOf(const QString& text, const QFont& font, qreal width) {
+    const auto count = linesOf(text, font, width).size();
+    auto narrow = width / 2, wide = width;
+    while (wide - narrow > 4) {
+        const auto middle = (narrow + wide) / 2;
+        (linesOf(text, font, middle).size() > count ? narrow : wide) = middle;
+    }
+    return linesOf(text, font, wide);
+}
+
+} // namespace
+
+EmptyState::EmptyState(Ui& ui, AppState& state, QWidget* parent)
+    : Canvas(ui.theme, parent), openPicture([this] { state_.chooseImage(); }),
+      openPalette([this] { state_.open(); }), state_(state) {
+    setAccessibleName(worded("Empty palette"));
+    subscriptions_.add(ui.theme.version(), [this] { relayout(); });
+}
+
+EmptyState::Setting EmptyState::setting(qreal width, qreal height) const {
+    const auto text = QChar(0x201C) + fromUtf8(state_.quote().text) + QChar(0x201D);
+    for (const auto style : {TextStyle::quotation, TextStyle::figure, TextStyle::body}) {
+        Setting setting{theme().font(style), theme().lineHeight(style), {}};
+        const auto most = std::min<qreal>(width, theme().scaled(kQuoteWidth));
+        setting.lines = evenLinesOf(text, setting.font, most);
+        if (setting.height() <= height) return setting;
+    }
+    return {};
+}
+
+CanvasItem EmptyState::actionItem(std::size_t at, const QRectF& rect) const {
+    CanvasItem item;
+    item.rect = rect;
+    item.kind = action;
+    item.index = at;
+    item.role = QAccessible::Button;
+    item.name = worded(kBeginnings[at].text);
+    item.description = keyText(actionRow(kBeginnings[at].action));
+    return item;
+}
+
+std::vector<CanvasItem> EmptyState::layoutItems(QSizeF size) const {
+    const auto width = std::max<qreal>(1, size.width() - 2 * kMargin);
+    const auto count = static_cast<int>(kBeginnings.size());
+    // The hint and the quotation get what the actions leave.
+    const auto hintHeight = theme().lineHeight(TextStyle::body);
+    const auto row = std::clamp(static_cast<int>(size.height() - 2 * kMargin) / count,
+                                theme().scaled(kLowestAction), theme().scaled(kAction));
+    const auto actions = row * count;
+    const bool hasHint = size.height() >= actions + hintHeight + 3 * kHintGap;
+    const auto foot = hasHint ? hintHeight + kHintGap : 0;
+    const auto authorLine = theme().lineHeight(TextStyle::body);
+    const auto around = kAuthorGap + authorLine + kActionsGap;
+    quote_ = setting(width, size.height() - actions - around - foot - 2 * kMargin);
+    const auto quote = quote_.lines.isEmpty() ? 0 : quote_.height() + around;
+    auto y = std::max(0, static_cast<int>(size.height() - foot - quote - actions) / 2);
+
+    std::vector<CanvasItem> items;
+    const auto text = [&](Kind kind, const QRectF& in, const QString& name) {
+        CanvasItem item;
+        item.rect = in;
+        item.kind = kind;
+        item.name = name;
+        items.push_back(std::move(item));
+    };
+    if (quote > 0) {
+        text(quotation, QRectF(kMargin, y, width, quote_.height()), fromUtf8(state_.quote().text));
+        y += quote_.height() + kAuthorGap;
+        text(author, QRectF(kMargin, y, width, authorLine), fromUtf8(state_.quote().author));
+        y += authorLine + kActionsGap;
+    }
+    const auto actionWidth = std::min<qreal>(width, theme().scaled(kActionWidth));
+    const auto left = std::round((size.width() - actionWidth) / 2);
+    for (std::size_t i = 0; i < kBeginnings.size(); ++i, y += row)
+        items.push_back(actionItem(i, QRectF(left, y, actionWidth, row)));
+    if (hasHint)
+        text(hint, QRectF(kMargin, size.height() - foot, width, hintHeight),
+             worded("Drop colours, palette files or a picture anywhere in this window"));
+    return items;
+}
+
+void EmptyState::paintAction(QPainter& painter, const CanvasItem& item, ItemState state) const {
+    const auto ink = theme().color(Token::ink);
+    if (state.hovered) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(theme().color(pressed_ >= 0 ? Token::press : Token::hover));
+        painter.drawRoundedRect(item.rect, metrics::kControlRadius, metrics::kControlRadius);
+    }
+    if (state.focused)
+        paintFocusRing(painter, theme(), item.rect.adjusted(1, 1, -1, -1), metrics::kControlRadius);
+    const auto middle = item.rect.center().y();
+    painter.drawPixmap(QPointF(item.rect.left() + kPadding, middle - kIcon / 2.0),
+                       theme().icon(kBeginnings[item.index].icon, kIcon, ink, devicePixelRatioF()));
+    const auto words = item.rect.adjusted(kWordsAt, 0, -kPadding, 0);
+    const auto font = theme().font(TextStyle::control);
+    const QFontMetricsF measure(font);
+    const auto needed = measure.horizontalAdvance(item.name);
+    painter.setFont(font);
+    painter.setPen(ink);
+    painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter,
+                     measure.elidedText(item.name, Qt::ElideRight, words.width()));
+    const auto keyFont = theme().font(TextStyle::body);
+    const auto key = QFontMetricsF(keyFont).horizontalAdvance(item.description);
+    if (needed + key + kPadding > words.width()) return;
+    painter.setFont(keyFont);
+    painter.setPen(theme().color(Token::ink3));
+    painter.drawText(words, Qt::AlignRight | Qt::AlignVCenter, item.description);
+}
+
+void EmptyState::paintItem(QPainter& painter, const CanvasItem& item, ItemState state) {
+    switch (item.kind) {
+    case quotation: {
+        painter.setFont(quote_.font);
+        painter.setPen(theme().color(Token::ink));
+        auto line = QRectF(item.rect.left(), item.rect.top(), item.rect.width(), quote_.line);
+        for (const auto& text : quote_.lines) {
+            painter.drawText(line, Qt::AlignCenter | Qt::TextDontClip, text);
+            line.translate(0, quote_.line);
+        }
+        break;
+    }
+    case action:
+        paintAction(painter, item, state);
+        break;
+    default: {
+        const auto font = theme().font(TextStyle::body);
+        painter.setFont(font);
+        painter.setPen(theme().color(item.kind == hint ? Token::ink3 : Token::ink2));
+        painter.drawText(
+            item.rect, Qt::AlignCenter,
+            QFontMetricsF(font).elidedText(item.name, Qt::ElideRight, item.rect.width()));
+    }
+    }
+}
+
+// Choosing
+
+void EmptyState::perform(int item) {
+    if (item < 0 || items()[static_cast<std::size_t>(item)].kind != action) return;
+    const auto& chosen = this->*kBeginnings[items()[static_cast<std::size_t>(item)].index].perform;
+    if (chosen) chosen();
+}
+
+void EmptyState::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    const auto item = itemAt(event->position());
+    if (item < 0 || items()[static_cast<std::size_t>(item)].kind != action) return;
+    pressed_ = item;
+    setFocused(item);
+    repaintItem(item);
+}
+
+void EmptyState::mouseReleaseEvent(QMouseEvent* event) {
+    const auto pressed = std::exchange(pressed_, -1);
+    repaintItem(pressed);
+    if (pressed >= 0 && pressed == itemAt(event->position())) perform(pressed);
+}
+
+void EmptyState::keyPressEvent(QKeyEvent* event) {
+    const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+                        event->key() == Qt::Key_Space;
+    if (enters && !event->isAutoRepeat() && focused() >= 0)
+        perform(focused());
+    else
+        Canvas::keyPressEvent(event);
+}
+
+} // namespace tintra

@@ -1,0 +1,220 @@
+#include "ui/palette/SeedRow.h"
+
+#include "state/Models.h"
+#include "ui/actions/ActionTable.h"
+#include "ui/palette/SeedChip.h"
+#include "ui/shared/Controls.h"
+#include "ui/shared/Text.h"
+#include "ui/shared/Theme.h"
+
+#include <QFontMetrics>
+#include <QMenu>
+#include <QPainter>
+#include <QPushButton>
+#include <algorithm>
+#include <array>
+#include <numeric>
+
+namespace tintra {
+namespace {
+
+constexpr int kHeight = 56, kLine = 40, kFoot = 8; ///< a line, and what is left below the last
+constexpr int kSide = 12, kGap = 24, kInner = 12;
+constexpr int kLabelGap = 8;
+
+bool hasSteps(HarmonyMode mode) {
+    return mode == HarmonyMode::ramp || mode == HarmonyMode::analogous ||
+           mode == HarmonyMode::monochromatic;
+}
+
+bool hasShades(HarmonyMode mode) {
+    return mode != HarmonyMode::ramp && mode != HarmonyMode::monochromatic;
+}
+
+} // namespace
+
+SeedRow::SeedRow(Ui& ui, AppState& state, QWidget* parent)
+    : QWidget(parent), ui_(ui), state_(state),
+      first_(new SeedChip(ui, state, AppState::SeedRole::first, this)),
+      last_(new SeedChip(ui, state, AppState::SeedRole::last, this)),
+      swap_(new ToolButton(ui.theme, "swap", 32, this)),
+      steps_(new Stepper(ui.theme, worded("Steps"), this)),
+      shades_(new Stepper(ui.theme, worded("Shades"), this)),
+      space_(new PopUpButton(ui.theme, PopUpButton::Border::yes, this)),
+      add_(new QPushButton(worded("Add Harmony to Palette"), this)) {
+    setAccessibleName(worded("Seeds"));
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    swap_->setTitle(worded("Swap the Seeds"), {});
+    connect(swap_, &QAbstractButton::clicked, this, [this] { state_.swapSeeds(); });
+    makeSteppers();
+    space_->setToolTip(shown("How steps are blended, and how harmony hues are rotated"));
+    space_->fill = [this](QMenu& menu) {
+        for (const auto space : allBlendSpaces()) {
+            auto* action = menu.addAction(shown(title(space)));
+            action->setCheckable(true);
+            action->setChecked(state_.blendSpace.value() == space);
+            connect(action, &QAction::triggered, this,
+                    [this, space] { state_.blendSpace = space; });
+        }
+    };
+    add_->setDefault(true);
+    add_->setToolTip(
+        QStringLiteral("%1 (%2)").arg(add_->text(), keyText(actionRow(ActionId::addHarmony))));
+    connect(add_, &QAbstractButton::clicked, this, [this] { state_.addHarmonyToPalette(); });
+    // The order of the Tab key.
+    const std::array<QWidget*, 7> inOrder{first_, swap_, last_, steps_, shades_, space_, add_};
+    for (std::size_t i = 1; i < inOrder.size(); ++i)
+        setTabOrder(inOrder[i - 1], inOrder[i]);
+    subscribe();
+    sync();
+}
+
+SeedRow::~SeedRow() = default;
+
+void SeedRow::makeSteppers() {
+    steps_->setRange(AppState::kFewestSteps, AppState::kMostSteps);
+    steps_->changed = [this](int value) { state_.steps = value; };
+    shades_->setRange(AppState::kFewestShades, AppState::kMostShades);
+    shades_->changed = [this](int value) { state_.shadesPerAnchor = value; };
+}
+
+void SeedRow::subscribe() {
+    auto& preferences = ui_.models.preferences();
+    const auto again = [this] { sync(); };
+    subscriptions_.add(state_.seeds(), again);
+    subscriptions_.add(state_.mode, again);
+    subscriptions_.add(state_.steps, again);
+    subscriptions_.add(state_.shadesPerAnchor, again);
+    subscriptions_.add(state_.blendSpace, again);
+    subscriptions_.add(state_.vision, again);
+    subscriptions_.add(preferences.format, again);
+    subscriptions_.add(preferences.formatOptions, again);
+    subscriptions_.add(preferences.swatchBackdrop, again);
+    subscriptions_.add(preferences.backdropColour, again);
+    subscriptions_.add(preferences.rgbProfile, again);
+    subscriptions_.add(ui_.theme.version(), again);
+}
+
+void SeedRow::sync() {
+    first_->sync();
+    last_->sync();
+    steps_->setValue(state_.steps);
+    shades_->setValue(state_.shadesPerAnchor);
+    space_->setText(shown(title(state_.blendSpace.value())));
+    space_->setAccessibleName(worded("Blend space: %1").arg(space_->text()));
+    const auto mode = state_.mode.value();
+    // A scale of one colour has no other end.
+    const bool hasLast = mode != HarmonyMode::monochromatic;
+    last_->setVisible(hasLast);
+    swap_->setVisible(hasLast);
+    steps_->setVisible(hasSteps(mode));
+    shades_->setVisible(hasShades(mode));
+    layOut();
+}
+
+// Layout
+
+SeedRow::Group SeedRow::seeds() const {
+    return {{first_, 0}, {swap_, kInner - 4}, {last_, kInner - 4}};
+}
+
+SeedRow::Group SeedRow::counts() const {
+    return {{steps_, kGap, worded("Steps")}, {shades_, kGap, worded("Shades")}};
+}
+
+SeedRow::Group SeedRow::makings() const {
+    return {{space_, kGap}, {add_, kGap}};
+}
+
+int SeedRow::labelWidth(const Part& part) const {
+    if (part.label.isEmpty()) return 0;
+    return QFontMetrics(ui_.theme.font(TextStyle::body)).horizontalAdvance(part.label) + kLabelGap;
+}
+
+int SeedRow::widthOf(const Part& part) const {
+    if (part.widget->isHidden()) return 0;
+    return part.before + labelWidth(part) + part.widget->sizeHint().width();
+}
+
+int SeedRow::widthOf(const Group& group) const {
+    return std::accumulate(group.begin(), group.end(), 0,
+                           [this](int sum, const Part& part) { return sum + widthOf(part); });
+}
+
+void SeedRow::place(const Group& group, int left, int line) {
+    const auto lineHeight = ui_.theme.scaled(kLine);
+    const auto top = ui_.theme.scaled(kFoot) / 2 + line * lineHeight;
+    for (const auto& part : group) {
+        if (part.widget->isHidden()) continue;
+        left += part.before;
+        const auto label = labelWidth(part);
+        if (label > 0) {
+            labels_.push_back({QRect(left, top, label, lineHeight), part.label});
+            left += label;
+        }
+        const auto size = part.widget->sizeHint();
+        const auto width = std::max(1, std::min(size.width(), this->width() - kSide - left));
+        part.widget->setGeometry(left, top + (lineHeight - size.height()) / 2, width,
+                                 size.height());
+        left += width;
+    }
+}
+
+void SeedRow::layOut() {
+    if (std::exchange(layingOut_, true)) return;
+    labels_.clear();
+    const auto room = width() - 2 * kSide;
+    for (const bool compact : {false, true}) {
+        first_->setCompact(compact);
+        last_->setCompact(compact);
+        if (widthOf(seeds()) + widthOf(counts()) <= room) break;
+    }
+    const auto seedsAndCounts = widthOf(seeds()) + widthOf(counts());
+    int line = 0;
+    place(seeds(), kSide, line);
+    if (seedsAndCounts <= room) {
+        place(counts(), kSide + widthOf(seeds()), line);
+    } else {
+        place(counts(), kSide - kGap, ++line);
+    }
+    const auto taken = line == 0 ? seedsAndCounts : widthOf(counts()) - kGap;
+    if (taken + widthOf(makings()) <= room) {
+        place(makings(), width() - kSide - widthOf(makings()), line);
+    } else {
+        // The button keeps its words; the choice beside it gives way.
+        const auto fits = widthOf(makings()) - kGap <= room;
+        if (fits) {
+            place(makings(), kSide - kGap, ++line);
+        } else {
+            place({{space_, 0}}, kSide, ++line);
+            place({{add_, 0}}, kSide, ++line);
+        }
+    }
+    const auto height = ui_.theme.scaled(kHeight) + line * ui_.theme.scaled(kLine);
+    if (height != this->height() || minimumHeight() != height) setFixedHeight(height);
+    update();
+    layingOut_ = false;
+}
+
+QSize SeedRow::sizeHint() const {
+    return {0, std::max(minimumHeight(), ui_.theme.scaled(kHeight))};
+}
+
+QSize SeedRow::minimumSizeHint() const {
+    return sizeHint();
+}
+
+void SeedRow::resizeEvent(QResizeEvent*) {
+    layOut();
+}
+
+void SeedRow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), ui_.theme.color(Token::panel));
+    painter.setFont(ui_.theme.font(TextStyle::body));
+    painter.setPen(ui_.theme.color(Token::ink2));
+    for (const auto& label : labels_)
+        painter.drawText(label.in, Qt::AlignLeft | Qt::AlignVCenter, label.text);
+}
+
+} // namespace tintra
