@@ -18,6 +18,9 @@ struct Lab {
 /// Bradford.
 Lab labFromLinear(const Rgb& linear, LabIlluminant illuminant);
 
+/// Linear-light sRGB of a Lab colour, unclamped: the inverse of `labFromLinear`.
+Rgb linearFromLab(const Lab& colour, LabIlluminant illuminant);
+
 /// Gamma-encoded sRGB of a Lab colour under D50, clamped to 0...1 per channel.
 Rgb rgbFromLabD50(const Lab& colour);
 
