@@ -186,6 +186,10 @@ double EditorChannel::fitted(double value) const {
     return value - std::floor((value - from) / turn) * turn;
 }
 
+double EditorChannel::share(double value) const {
+    return clampedUnit((value - from) / (to - from));
+}
+
 QString EditorChannel::text(double value) const {
     // Adding 0 turns what rounds to "-0" into "0".
     const auto scale = std::pow(10, digits);

@@ -27,6 +27,8 @@ struct EditorChannel {
 
     /// Clamped, or brought round; not a number gives `from`.
     double fitted(double value) const;
+    /// 0...1 along its slider, clamped.
+    double share(double value) const;
     /// As in its field: "36.5".
     QString text(double value) const;
     /// With the unit: "36.5°", "80 %".
