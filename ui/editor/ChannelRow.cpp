@@ -92,7 +92,8 @@ void ChannelRow::step(int by) {
 
 void ChannelRow::restyle() {
     field_->setFont(theme_.font(TextStyle::code));
-    field_->setTextMargins(0, 0, 4, 0);
+    // Room for "-112.0".
+    field_->setTextMargins(-6, 0, 0, 0);
     setFixedHeight(theme_.scaled(kHeight));
     update();
 }

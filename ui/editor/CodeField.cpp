@@ -63,7 +63,7 @@ void CodeField::setRefused(bool is) {
 
 void CodeField::restyle() {
     setFont(theme_.font(TextStyle::code));
-    setTextMargins(2, 0, theme_.scaled(kButton), 0);
+    setTextMargins(0, 0, theme_.scaled(kButton), 0);
     update();
 }
 

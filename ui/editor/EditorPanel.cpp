@@ -89,7 +89,7 @@ void EditorPanel::refreshName(std::size_t at, const WashColor& color) {
     const auto text = given ? fromUtf8(*given) : QString();
     if (name_->isModified() || name_->text() == text) return;
     name_->setText(text);
-    name_->setCursorPosition(0);
+    if (!name_->hasFocus()) name_->setCursorPosition(0);
 }
 
 void EditorPanel::refreshCode(std::size_t at, const WashColor& color) {
@@ -175,6 +175,12 @@ void EditorPanel::leaveByEscape() {
         revert();
     else
         closeEditor();
+}
+
+bool EditorPanel::eventFilter(QObject* watched, QEvent* event) {
+    // A long name is shown from its beginning, and typed on at its end.
+    if (watched == name_ && event->type() == QEvent::FocusIn) name_->end(false);
+    return QWidget::eventFilter(watched, event);
 }
 
 void EditorPanel::keyPressEvent(QKeyEvent* event) {

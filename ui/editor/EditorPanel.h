@@ -42,6 +42,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     struct Subscriptions;
@@ -55,9 +56,8 @@ private:
     void subscribe();
     void restyle();
     void place();
-    /// Both answer the height they take.
+    /// Answers the height it takes.
     int placeBody();
-    int placeFoot();
     /// Of the space that is shown, alpha last.
     std::vector<ChannelRow*> sliderRows() const;
 
@@ -101,6 +101,7 @@ private:
     GamutSentence* gamut_;
     CodeField* code_;
     QPushButton *apply_, *revert_;
+    QWidget* foot_;
     QLabel* refusal_;
     std::unique_ptr<Subscriptions> subscriptions_;
 };

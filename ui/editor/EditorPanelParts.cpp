@@ -12,10 +12,12 @@
 #include "ui/shared/Theme.h"
 
 #include <QAccessible>
+#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QVBoxLayout>
 #include <algorithm>
 
 namespace tintra {
@@ -71,6 +73,7 @@ void EditorPanel::makeHead() {
 
     name_ = new QLineEdit(body_);
     name_->setAccessibleName(worded("Name of the swatch"));
+    name_->installEventFilter(this);
     name_->setToolTip(worded("The swatch’s name. Empty, the nearest name from the list stands in"));
     close_ = new ToolButton(ui_.theme, "close", kTool, body_);
     close_->setTitle(worded("Close the editor"), worded("Esc"));
@@ -92,13 +95,21 @@ void EditorPanel::makeSliders() {
 }
 
 void EditorPanel::makeFoot() {
-    code_ = new CodeField(ui_.theme, this);
-    apply_ = new QPushButton(worded("Apply"), this);
+    foot_ = new QWidget(this);
+    code_ = new CodeField(ui_.theme, foot_);
+    apply_ = new QPushButton(worded("Apply"), foot_);
     apply_->setDefault(true);
-    revert_ = new QPushButton(worded("Revert"), this);
-    refusal_ = new QLabel(shown("Nothing there that reads as a colour"), this);
+    revert_ = new QPushButton(worded("Revert"), foot_);
+    refusal_ = new QLabel(shown("Nothing there that reads as a colour"), foot_);
     refusal_->setWordWrap(true);
     refusal_->hide();
+    auto* const line = new QHBoxLayout;
+    line->addWidget(code_, 1);
+    line->addWidget(apply_);
+    line->addWidget(revert_);
+    auto* const lines = new QVBoxLayout(foot_);
+    lines->addLayout(line);
+    lines->addWidget(refusal_);
 }
 
 // Connections
@@ -189,6 +200,9 @@ void EditorPanel::restyle() {
     gamut_->restyle();
     code_->restyle();
     refusal_->setFont(ui_.theme.font(TextStyle::small));
+    const auto margin = ui_.theme.scaled(kMargin), gap = ui_.theme.scaled(kGap);
+    foot_->layout()->setContentsMargins(margin, gap, margin, margin);
+    foot_->layout()->setSpacing(gap);
     place();
     refresh();
     update();
@@ -199,14 +213,16 @@ void EditorPanel::resizeEvent(QResizeEvent*) {
 }
 
 void EditorPanel::place() {
-    const auto foot = placeFoot();
+    // The panel's line takes the first pixel.
+    foot_->layout()->activate();
+    const auto foot = foot_->heightForWidth(width());
+    foot_->setGeometry(0, height() - foot, width(), foot);
     area_->setGeometry(1, 0, width() - 1, height() - foot);
     body_->resize(width() - 1, placeBody());
 }
 
 int EditorPanel::placeBody() {
     const auto px = [this](int regular) { return ui_.theme.scaled(regular); };
-    // The panel's line takes the first pixel.
     const auto left = px(kMargin) - 1, wide = px(kContent);
     auto y = px(kTop);
     name_->setGeometry(left, y, wide - px(kTool + kGap), px(kControl));
@@ -231,24 +247,6 @@ int EditorPanel::placeBody() {
         y += gamut_->height();
     }
     return y + px(kGap);
-}
-
-int EditorPanel::placeFoot() {
-    const auto px = [this](int regular) { return ui_.theme.scaled(regular); };
-    const auto left = px(kMargin), wide = px(kContent), high = px(kControl);
-    const bool refuses = refusal_->isVisibleTo(this);
-    const auto sentence = refuses ? refusal_->heightForWidth(wide) + px(kRowGap) : 0;
-    const auto whole = px(kGap) + high + sentence + px(kMargin);
-    const auto y = height() - whole + px(kGap);
-    auto right = left + wide;
-    for (auto* const button : {revert_, apply_}) {
-        const auto width = button->sizeHint().width();
-        button->setGeometry(right - width, y, width, high);
-        right -= width + px(kGap);
-    }
-    code_->setGeometry(left, y, right - left, high);
-    refusal_->setGeometry(left, y + high + px(kRowGap), wide, sentence - px(kRowGap));
-    return whole;
 }
 
 std::vector<ChannelRow*> EditorPanel::sliderRows() const {

@@ -62,18 +62,21 @@ double positiveDegrees(double degrees) {
 
 // Each space there and back.
 
+// sRGB itself goes round the colour management, which rounds to its own precision.
+
 Figures rgbOf(const WashColor& color, const EditorProfiles& profiles) {
-    const auto in = profiles.rgb->fromSrgb({color.r, color.g, color.b});
-    if (!in) return {color.r * 255, color.g * 255, color.b * 255};
-    return {(*in)[0] * 255, (*in)[1] * 255, (*in)[2] * 255};
+    Components parts{color.r, color.g, color.b, 0};
+    if (profiles.rgb != ColourSpace::sRGB().get())
+        parts = profiles.rgb->fromSrgb({color.r, color.g, color.b}).value_or(parts);
+    return {parts[0] * 255, parts[1] * 255, parts[2] * 255};
 }
 
 WashColor fromRgb(const Figures& f, double alpha, const EditorProfiles& profiles) {
     const Components parts{f[0] / 255, f[1] / 255, f[2] / 255, 0};
-    if (profiles.rgb == ColourSpace::sRGB().get()) return {parts[0], parts[1], parts[2], alpha};
-    const auto srgb = profiles.rgb->toSrgb(parts);
-    return srgb ? WashColor{srgb->r, srgb->g, srgb->b, alpha}
-                : WashColor{parts[0], parts[1], parts[2], alpha};
+    ExtendedSrgb srgb{parts[0], parts[1], parts[2]};
+    if (profiles.rgb != ColourSpace::sRGB().get())
+        srgb = profiles.rgb->toSrgb(parts).value_or(srgb);
+    return {srgb.r, srgb.g, srgb.b, alpha};
 }
 
 Figures hsbOf(const WashColor& color, const EditorProfiles&) {

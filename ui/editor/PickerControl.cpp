@@ -68,8 +68,9 @@ void PickerControl::paintThumb(QPainter& painter, QPointF centre, const QColor& 
     painter.drawEllipse(centre, radius + 1, radius + 1);
     painter.setBrush(Qt::white);
     painter.drawEllipse(centre, radius - 0.5, radius - 0.5);
+    painter.setPen(QPen(QColor(0, 0, 0, 128), 1));
     painter.setBrush(fill);
-    painter.drawEllipse(centre, radius - 2.5, radius - 2.5);
+    painter.drawEllipse(centre, radius - 3, radius - 3);
 }
 
 void PickerControl::announce() {

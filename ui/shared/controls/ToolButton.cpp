@@ -10,7 +10,7 @@
 namespace tintra {
 namespace {
 
-constexpr int kIcon = 20, kBadge = 16;
+constexpr int kIcon = 20, kSmallIcon = 16, kBadge = 16;
 
 void paintBadge(QPainter& painter, const Theme& theme, const QRectF& button, int count) {
     const auto text = count > 99 ? QStringLiteral("99+") : QString::number(count);
@@ -77,9 +77,12 @@ void ToolButton::paintEvent(QPaintEvent*) {
         painter.setBrush(*ground);
         painter.drawRoundedRect(whole, metrics::kControlRadius, metrics::kControlRadius);
     }
-    const auto size = side_ < 28 ? 16 : kIcon;
-    painter.drawPixmap(whole.center() - QPointF(size / 2.0, size / 2.0),
-                       theme_.icon(icon_, size, mark, devicePixelRatioF()));
+    const auto ratio = devicePixelRatioF();
+    auto picture = theme_.icon(icon_, side_ < 28 ? kSmallIcon : kIcon, mark, ratio);
+    // A few are drawn small only.
+    if (picture.isNull()) picture = theme_.icon(icon_, kSmallIcon, mark, ratio);
+    const auto size = picture.width() / ratio;
+    painter.drawPixmap(whole.center() - QPointF(size / 2, size / 2), picture);
     if (badge_ > 0) paintBadge(painter, theme_, whole, badge_);
     if (hasFocus())
         paintFocusRing(painter, theme_, whole.adjusted(2, 2, -2, -2), metrics::kControlRadius);
