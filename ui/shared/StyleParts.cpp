@@ -41,7 +41,7 @@ struct MenuText {
 
 void StyleParts::button(const QStyleOption& option) const {
     const bool enabled = is(option, QStyle::State_Enabled);
-    const auto whole = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    const auto body = QRectF(option.rect.marginsRemoved(kRingRoom)).adjusted(0.5, 0.5, -0.5, -0.5);
     auto fill = theme_.color(Token::panel);
     auto border = theme_.color(enabled ? Token::edge : Token::line);
     if (isDefault(option) && enabled)
@@ -53,10 +53,10 @@ void StyleParts::button(const QStyleOption& option) const {
     painter_.setRenderHint(QPainter::Antialiasing);
     painter_.setPen(QPen(border, 1));
     painter_.setBrush(fill);
-    const bool ring = is(option, QStyle::State_HasFocus);
-    const auto body = ring ? whole.adjusted(3, 3, -3, -3) : whole;
     painter_.drawRoundedRect(body, metrics::kControlRadius, metrics::kControlRadius);
-    if (ring) paintFocusRing(painter_, theme_, whole.adjusted(1, 1, -1, -1), 7);
+    if (is(option, QStyle::State_HasFocus))
+        paintFocusRing(painter_, theme_, QRectF(option.rect).adjusted(2, 2, -2, -2),
+                       metrics::kControlRadius + 2);
 }
 
 void StyleParts::buttonLabel(const QStyleOptionButton& option) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMargins>
 #include <QPainter>
 #include <QRect>
 #include <QStyleOption>
@@ -13,6 +14,8 @@ class StyleParts {
 public:
     StyleParts(const Theme& theme, QPainter& painter) : theme_(theme), painter_(painter) {}
 
+    /// Round the body of a button, for the ring of focus. Layouts do not count it.
+    static constexpr QMargins kRingRoom{4, 4, 4, 4};
     void button(const QStyleOption& option) const;
     void buttonLabel(const QStyleOptionButton& option) const;
     void field(const QStyleOption& option) const;

@@ -135,8 +135,8 @@ QSize TintraStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
     auto result = QProxyStyle::sizeFromContents(type, option, size, widget);
     switch (type) {
     case CT_PushButton:
-        result.setHeight(theme_.scaled(kControl));
-        result.setWidth(std::max(size.width() + 24, theme_.scaled(56)));
+        result = QSize(std::max(size.width() + 24, theme_.scaled(56)), theme_.scaled(kControl))
+                     .grownBy(StyleParts::kRingRoom);
         break;
     case CT_LineEdit:
         result.setHeight(theme_.scaled(kControl));
@@ -156,6 +156,14 @@ QSize TintraStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
         break;
     }
     return result;
+}
+
+QRect TintraStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                  const QWidget* widget) const {
+    // Its ring stands outside of what layouts place.
+    if (element == SE_PushButtonLayoutItem)
+        return option->rect.marginsRemoved(StyleParts::kRingRoom);
+    return QProxyStyle::subElementRect(element, option, widget);
 }
 
 int TintraStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
