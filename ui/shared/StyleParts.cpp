@@ -69,9 +69,10 @@ void StyleParts::buttonLabel(const QStyleOptionButton& option) const {
     auto room = option.rect;
     if (!option.icon.isNull()) {
         const auto words = QFontMetrics(font).horizontalAdvance(option.text);
-        const auto left = room.center().x() - (words + kIcon + 8) / 2;
-        option.icon.paint(&painter_, QRect(left, room.center().y() - kIcon / 2, kIcon, kIcon));
-        room.setLeft(left + kIcon + 8);
+        const auto side = option.iconSize.width();
+        const auto left = room.center().x() - (words + side + 8) / 2;
+        option.icon.paint(&painter_, QRect(left, room.center().y() - side / 2, side, side));
+        room.setLeft(left + side + 8);
         painter_.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic,
                           option.text);
         return;
@@ -198,8 +199,9 @@ void StyleParts::menuBarItem(const QStyleOptionMenuItem& option) const {
     painter_.drawText(option.rect, Qt::AlignCenter | Qt::TextHideMnemonic, option.text);
 }
 
-void StyleParts::scrollBar(const QStyleOptionSlider& option, const QRect& handle) const {
-    painter_.fillRect(option.rect, theme_.color(Token::ground));
+void StyleParts::scrollBar(const QStyleOptionSlider& option, const QRect& handle,
+                           Token ground) const {
+    painter_.fillRect(option.rect, theme_.color(ground));
     if (option.minimum == option.maximum) return;
     painter_.setRenderHint(QPainter::Antialiasing);
     painter_.setPen(Qt::NoPen);

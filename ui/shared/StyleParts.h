@@ -1,13 +1,13 @@
 #pragma once
 
+#include "ui/shared/Theme.h"
+
 #include <QMargins>
 #include <QPainter>
 #include <QRect>
 #include <QStyleOption>
 
 namespace tintra {
-
-class Theme;
 
 /// The parts of standard controls, drawn from the tokens.
 class StyleParts {
@@ -27,7 +27,7 @@ public:
     static QSize menuItemSize(const Theme& theme, const QStyleOptionMenuItem& option, int height,
                               int checkWidth);
     void menuBarItem(const QStyleOptionMenuItem& option) const;
-    void scrollBar(const QStyleOptionSlider& option, const QRect& handle) const;
+    void scrollBar(const QStyleOptionSlider& option, const QRect& handle, Token ground) const;
 
 private:
     const Theme& theme_;

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QWidget>
 #include <algorithm>
 
 namespace tintra {
@@ -17,6 +18,18 @@ constexpr int kMenuItem = 28;  ///< height of a row of a menu
 constexpr int kCheckMark = 28; ///< of a menu row, at the left
 constexpr int kIndicator = 16; ///< side of a check or radio button
 constexpr int kScrollBar = 12;
+
+/// What a scroll bar stands on: fields and lists say so by their background role.
+Token groundOf(const QWidget* bar) {
+    switch (bar ? bar->backgroundRole() : QPalette::Window) {
+    case QPalette::Base:
+        return Token::raised;
+    case QPalette::Button:
+        return Token::panel;
+    default:
+        return Token::ground;
+    }
+}
 
 } // namespace
 
@@ -124,7 +137,7 @@ void TintraStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
     if (control == CC_ScrollBar && slider) {
         const auto handle =
             proxy()->subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget);
-        StyleParts(theme_, *painter).scrollBar(*slider, handle);
+        StyleParts(theme_, *painter).scrollBar(*slider, handle, groundOf(widget));
         return;
     }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
@@ -163,6 +176,7 @@ QRect TintraStyle::subElementRect(SubElement element, const QStyleOption* option
     // Its ring stands outside of what layouts place.
     if (element == SE_PushButtonLayoutItem)
         return option->rect.marginsRemoved(StyleParts::kRingRoom);
+    if (element == SE_LineEditContents) return option->rect.adjusted(7, 2, -7, -2);
     return QProxyStyle::subElementRect(element, option, widget);
 }
 
