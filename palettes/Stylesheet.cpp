@@ -24,27 +24,6 @@ std::optional<std::string> nameOf(std::string_view property) {
     return displayName(property);
 }
 
-/// Collects the colours of declarations, each identity once.
-class SwatchList {
-public:
-    void addFrom(std::string_view declaration) {
-        const auto colon = declaration.find(':');
-        if (colon == std::string_view::npos) return;
-        const auto& colours = values_.colours(declaration.substr(colon + 1));
-        const auto property = trimmed(declaration.substr(0, colon));
-        for (const auto& colour : colours)
-            if (seen_.insert(colour.identity()).second)
-                swatches_.push_back({colour, nameOf(property)});
-    }
-
-    std::vector<PaletteFile::Swatch> take() { return std::move(swatches_); }
-
-private:
-    stylesheet::ValueReader values_;
-    std::unordered_set<std::string> seen_;
-    std::vector<PaletteFile::Swatch> swatches_;
-};
-
 } // namespace
 
 std::span<const std::string_view> extensions() {
@@ -66,12 +45,29 @@ bool looksLikeStylesheet(std::string_view text) {
     return false;
 }
 
+std::vector<Declared> declared(std::string_view text) {
+    const stylesheet::Uncommented source(text);
+    stylesheet::ValueReader values;
+    std::vector<Declared> all;
+    for (const auto& declaration : stylesheet::declarations(source.text())) {
+        const auto colon = declaration.text.find(':');
+        if (declaration.isSelector || colon == std::string_view::npos) continue;
+        const auto at = static_cast<std::size_t>(declaration.text.data() - source.text().data());
+        const auto& colours = values.colours(declaration.text.substr(colon + 1));
+        all.push_back({source.origin(at), {}, colours});
+        if (!colours.empty()) all.back().name = nameOf(trimmed(declaration.text.substr(0, colon)));
+    }
+    return all;
+}
+
 std::vector<PaletteFile::Swatch> read(std::string_view text) {
-    const auto source = stylesheet::withoutComments(text);
-    SwatchList swatches;
-    for (const auto& declaration : stylesheet::declarations(source))
-        if (!declaration.isSelector) swatches.addFrom(declaration.text);
-    return swatches.take();
+    std::unordered_set<std::string> seen;
+    std::vector<PaletteFile::Swatch> swatches;
+    for (const auto& declaration : declared(text))
+        for (const auto& colour : declaration.colours)
+            if (seen.insert(colour.identity()).second)
+                swatches.push_back({colour, declaration.name});
+    return swatches;
 }
 
 std::vector<WashColor> colours(std::string_view value) {

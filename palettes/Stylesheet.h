@@ -2,6 +2,7 @@
 
 #include "palettes/Swatch.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <span>
@@ -23,6 +24,16 @@ bool looksLikeStylesheet(std::string_view text);
 /// The colours of every declaration in reading order, each identity once. The first declaration
 /// that holds a colour names it when it is a variable.
 std::vector<PaletteFile::Swatch> read(std::string_view text);
+
+/// A declaration, in the words of its author.
+struct Declared {
+    std::size_t at;                  ///< where it begins in the text, bytes
+    std::optional<std::string> name; ///< of a variable that holds colours, made readable
+    std::vector<WashColor> colours;  ///< of its value in reading order, repeats kept; maybe none
+};
+
+/// Every declaration of the text in reading order, those without a colour too.
+std::vector<Declared> declared(std::string_view text);
 
 /// Whether the Library lists the file as a palette: a regular file of at most a million bytes of
 /// UTF-8, not minified, and a variable holds a colour. The verdict is kept with the file's

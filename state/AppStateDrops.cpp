@@ -62,9 +62,14 @@ void AppState::release(const Uuid& swatch) {
 
 std::size_t AppState::receiveText(std::string_view text) {
     const auto found = coloursIn(text);
+    receiveSwatches(found);
+    return found.size();
+}
+
+void AppState::receiveSwatches(std::span<const PaletteFile::Swatch> found) {
     if (found.size() == 1) {
         addToPalette(found[0].color, Duplicates::refuse, found[0].name);
-        return 1;
+        return;
     }
     std::vector<WashColor> colours;
     std::vector<std::optional<std::string>> names;
@@ -73,7 +78,6 @@ std::size_t AppState::receiveText(std::string_view text) {
         names.push_back(swatch.name);
     }
     addAllToPalette(colours, names);
-    return found.size();
 }
 
 } // namespace tintra
