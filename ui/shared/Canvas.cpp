@@ -82,6 +82,12 @@ bool Canvas::showsFocus() const {
     return hasFocus() && (focusByKeyboard_ || theme_.isHighContrast());
 }
 
+void Canvas::useKeyboard() {
+    if (focusByKeyboard_) return;
+    focusByKeyboard_ = true;
+    repaintItem(focused_);
+}
+
 void Canvas::relayout() {
     stale_ = true;
     layOut();
