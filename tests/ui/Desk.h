@@ -165,6 +165,14 @@ inline void click(QWidget& widget, QPointF at, Qt::KeyboardModifiers keys = {}) 
     QCoreApplication::processEvents();
 }
 
+/// The first widget of a class within another; null for none.
+template <class Widget>
+Widget* child(const QWidget& in) {
+    for (auto* one : in.findChildren<QWidget*>())
+        if (auto* found = dynamic_cast<Widget*>(one)) return found;
+    return nullptr;
+}
+
 /// What a drag over a widget and the drop on it come to.
 struct Dropping {
     bool entered = false; ///< it offers to take it

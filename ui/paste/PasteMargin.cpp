@@ -15,10 +15,9 @@ namespace {
 constexpr int kInset = 12, kChip = 18, kGap = 8;
 
 QString wordsOf(const PasteReading::Line& line) {
-    if (!line.swatch) return QStringLiteral("—");
+    if (!line.color) return QStringLiteral("—");
     if (line.isRepeat) return worded("as above");
-    const auto& swatch = *line.swatch;
-    auto name = oneLine(swatch.name ? *swatch.name : ColorNames::shared().name(swatch.color));
+    auto name = oneLine(line.name ? *line.name : ColorNames::shared().name(*line.color));
     return line.more == 0 ? name : QStringLiteral("%1 +%2").arg(name).arg(line.more);
 }
 
@@ -63,11 +62,11 @@ void PasteMargin::paintLine(QPainter& painter, const PasteReading::Line& line,
     const auto side = theme.scaled(kChip);
     const QRectF chip(kInset, std::round(beside.center().y() - side / 2.0), side, side);
     auto left = chip.left();
-    if (line.swatch && !line.isRepeat) {
-        ui_.painter.chip(painter, chip, line.swatch->color, vision_);
+    if (line.color && !line.isRepeat) {
+        ui_.painter.chip(painter, chip, *line.color, vision_);
         left = chip.right() + kGap;
     }
-    painter.setPen(theme.color(line.swatch && !line.isRepeat ? Token::ink : Token::ink3));
+    painter.setPen(theme.color(line.color && !line.isRepeat ? Token::ink : Token::ink3));
     const QRectF room(left, chip.top(), width() - left - kGap, chip.height());
     painter.drawText(
         room, Qt::AlignLeft | Qt::AlignVCenter,

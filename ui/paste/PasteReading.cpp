@@ -17,12 +17,10 @@ PasteReading readLines(std::string_view text) {
     for (std::size_t number = 0; !text.empty(); ++number) {
         const auto line = trimmed(takeLine(text));
         if (line.empty()) continue;
-        PasteReading::Line read{.number = number};
-        if (const auto colour = PasteColours::colour(line)) {
-            read.swatch = PaletteFile::Swatch{*colour, {}};
-            reading.swatches.push_back(*read.swatch);
-        }
-        if (reading.lines.size() < PasteReading::kMostLines) reading.lines.push_back(read);
+        const auto colour = PasteColours::colour(line);
+        if (colour) reading.swatches.push_back({*colour, {}});
+        if (reading.lines.size() < PasteReading::kMostLines)
+            reading.lines.push_back({.number = number, .color = colour});
     }
     return reading;
 }
@@ -59,10 +57,13 @@ private:
         if (isNew) lines.push_back({.number = number_});
         auto& line = lines.back();
         if (declared.colours.empty()) return;
-        const auto before = line.swatch && !line.isRepeat ? line.more + 1 : 0;
-        if (!line.swatch || (line.isRepeat && fresh > 0))
-            line.swatch = fresh > 0 ? reading_.swatches[reading_.swatches.size() - fresh]
-                                    : PaletteFile::Swatch{declared.colours[0], declared.name};
+        const auto before = line.color && !line.isRepeat ? line.more + 1 : 0;
+        if (!line.color || (line.isRepeat && fresh > 0)) {
+            const auto& swatches = reading_.swatches;
+            line.color =
+                fresh > 0 ? swatches[swatches.size() - fresh].color : declared.colours.front();
+            line.name = declared.name;
+        }
         const auto whole = before + fresh;
         line.isRepeat = whole == 0;
         line.more = whole == 0 ? 0 : whole - 1;

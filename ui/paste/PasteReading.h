@@ -1,9 +1,11 @@
 #pragma once
 
+#include "colour/WashColor.h"
 #include "palettes/Swatch.h"
 
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -14,9 +16,10 @@ namespace tintra {
 struct PasteReading {
     /// A line that says something.
     struct Line {
-        std::size_t number = 0;                      ///< from 0
-        std::optional<PaletteFile::Swatch> swatch{}; ///< its first colour; none: nothing is read
-        std::size_t more = 0;                        ///< further colours of the line
+        std::size_t number = 0;            ///< from 0
+        std::optional<WashColor> color{};  ///< its first; none: nothing is read
+        std::optional<std::string> name{}; ///< that a variable gives it
+        std::size_t more = 0;              ///< further colours of the line
         bool isRepeat = false; ///< nothing of it counts: a stylesheet has held it before
     };
     /// In order; no more than these are told of.
