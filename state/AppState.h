@@ -286,9 +286,8 @@ public:
     void explainMoveRefusal();
     /// A swatch of this palette has moved to another window.
     void release(const Uuid& swatch);
-    /// Colours out of text that was pasted or dropped. Answers how many it held.
+    /// Colours out of text that was pasted or dropped, or read already. Answers how many it held.
     std::size_t receiveText(std::string_view text);
-    /// The same with colours that have been read.
     void receiveSwatches(std::span<const PaletteFile::Swatch> found);
 
     // Pictures (AppStatePicture.cpp)

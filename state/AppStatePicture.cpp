@@ -157,13 +157,18 @@ void AppState::reextract(int count, ImagePalette::Emphasis emphasis) {
     source.emphasis = emphasis;
     source.extracting = true;
     imageSource = source;
+    const auto turn = ++pictureTurn_;
+    *source.wanted = turn;
     inBackground(
         context_.services, alive_,
-        [picture = source.picture, inUse = source.inUse, count = source.count, emphasis] {
+        [picture = source.picture, inUse = source.inUse, count = source.count, emphasis, turn,
+         wanted = source.wanted]() -> ImagePalette::Colours {
             const std::scoped_lock lock(*inUse);
+            // Of counts that were passed quickly only the last one costs anything.
+            if (*wanted != turn) return {};
             return ImagePalette::extract(*picture, count, emphasis);
         },
-        [this, turn = ++pictureTurn_, before](ImagePalette::Colours&& colours) {
+        [this, turn, before](ImagePalette::Colours&& colours) {
             if (turn == pictureTurn_) Extracting::extracted(*this, std::move(colours), before);
         });
 }

@@ -2,6 +2,8 @@
 
 #include "palettes/ImagePalette.h"
 
+#include <atomic>
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <mutex>
@@ -23,6 +25,9 @@ struct ImageSource {
     int most = ImagePalette::kMostColours; ///< the picture is known to have no more
     /// Held by whoever reads the picture, on whatever thread.
     std::shared_ptr<std::mutex> inUse = std::make_shared<std::mutex>();
+    /// The turn of the last extraction; those that still wait for their turn are passed over.
+    std::shared_ptr<std::atomic<std::uint64_t>> wanted =
+        std::make_shared<std::atomic<std::uint64_t>>(0);
     /// Whether it shows the same; unlike colours that are equal by their identity alone.
     bool operator==(const ImageSource& other) const;
 };

@@ -261,7 +261,7 @@ TEST_F(DarkPasteTest, FitsItsWindow) {
         EXPECT_TRUE(
             window.rect().contains(editor().rect().translated(editor().mapTo(&window, QPoint()))))
             << size.width();
-        EXPECT_GE(editor().height(), 40);
+        EXPECT_GE(editor().height(), 32);
         test::grab(window, "paste-dark-" + std::to_string(size.width()));
     }
 }

@@ -191,13 +191,6 @@ TEST_F(PictureTest, IsWorkedByKeyboard) {
     press("+");
     desk.settle();
     EXPECT_EQ(state.imageSource.value().count, 6);
-    // There are only six colours.
-    for (int i = 0; i < 3; ++i) {
-        press("+");
-        desk.settle();
-    }
-    EXPECT_EQ(state.imageSource.value().count, 6);
-    EXPECT_FALSE(state.canExtractMore());
 }
 
 TEST_F(PictureTest, NumbersPinsAsThePaletteStands) {
@@ -324,6 +317,26 @@ TEST_F(PictureTest, SurvivesItsWindowInTheMiddle) {
     desk.desktop.background.finish();
     desk.settle();
     EXPECT_EQ(pins(), 6U);
+}
+
+class DarkPictureTest : public PictureTest {
+protected:
+    DarkPictureTest() : PictureTest(Appearance::dark) {}
+};
+
+TEST_F(DarkPictureTest, FollowsTheTheme) {
+    load();
+    focusByTab();
+    press("Tab");
+    press("Right");
+    test::grab(window, "picture-dark");
+    desk.settings.prefersHighContrast = true;
+    desk.models.preferences().typeSize = TypeSize::largest;
+    desk.applyStyle();
+    desk.settle();
+    EXPECT_EQ(canvas().items().size(), 6U);
+    EXPECT_GT(canvas().items()[0].rect.width(), 40); // grown with the text
+    test::grab(window, "picture-hc");
 }
 
 TEST(PictureSplitTest, SnapsToItsShares) {

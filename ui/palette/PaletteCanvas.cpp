@@ -50,7 +50,7 @@ void PaletteCanvas::subscribe() {
     subscriptions_.add(state_.selectedSwatch, [this] { syncSelection(); });
     subscriptions_.add(state_.vision, [this] { update(); });
     subscriptions_.add(state_.editorBuffer, repaint);
-    subscriptions_.add(state_.imageSource, repaint);
+    subscriptions_.add(state_.imageSource, layOut);
     subscriptions_.add(preferences.format, repaint);
     subscriptions_.add(preferences.formatOptions, repaint);
     subscriptions_.add(preferences.swatchBackdrop, repaint);
@@ -97,7 +97,15 @@ SwatchPlaces PaletteCanvas::places(QSizeF size) const {
     return display_ == PaletteDisplay::tiles ? tilePlaces(count, size) : columnPlaces(count, size);
 }
 
+void PaletteCanvas::findPins() {
+    pinned_.assign(rows_ ? state_.swatches().size() : 0, std::nullopt);
+    if (!rows_) return;
+    for (const auto& mark : pinMarks(state_))
+        if (mark.swatch) pinned_[*mark.swatch] = mark;
+}
+
 void PaletteCanvas::setWhole() {
+    findPins();
     // The least height makes the scroll area scroll; a width of its own would not follow it.
     const QSizeF visible(width(), parentWidget() ? parentWidget()->height() : height());
     const auto whole = static_cast<int>(places(visible).height);
@@ -176,14 +184,10 @@ SwatchLook PaletteCanvas::look(std::size_t at) const {
 }
 
 void PaletteCanvas::markPin(SwatchLook& look, std::size_t at) const {
-    const auto pins = state_.pinSwatchIDs();
-    const auto pin = std::ranges::find(pins, state_.swatches()[at].id);
-    if (pin == pins.end()) return;
-    const auto number = static_cast<std::size_t>(pin - pins.begin());
-    look.index = QString::number(number + 1);
+    if (at >= pinned_.size() || !pinned_[at]) return;
+    look.index = QString::number(pinned_[at]->number);
     look.pinned = true;
-    const auto& found = state_.imageSource.value().found;
-    look.ownPin = number < found.size() && found[number].isOwn;
+    look.ownPin = pinned_[at]->isOwn;
 }
 
 void PaletteCanvas::paintGround(QPainter& painter, const QRect& dirty) {

@@ -3,6 +3,7 @@
 #include "state/AppState.h"
 #include "ui/Ui.h"
 #include "ui/palette/SwatchLayout.h"
+#include "ui/picture/PinMarks.h"
 #include "ui/shared/Canvas.h"
 #include "ui/shared/ColourMime.h"
 #include "ui/shared/Subscriptions.h"
@@ -81,6 +82,7 @@ private:
     /// The number of its pin, for a swatch that has one.
     void markPin(SwatchLook& look, std::size_t at) const;
     void setWhole();
+    void findPins();
     void syncSelection();
     std::optional<int> buttonAt(int item, QPointF place) const;
     void press(std::size_t swatch, int button);
@@ -97,6 +99,7 @@ private:
     AppState& state_;
     PaletteDisplay display_ = PaletteDisplay::columns;
     bool rows_ = false, peeks_ = false;
+    std::vector<std::optional<PinMark>> pinned_; ///< a swatch its pin, beside a picture
     int hoveredButton_ = -1, pressedButton_ = -1;
     std::optional<std::size_t> pressed_; ///< swatch under a button of the mouse
     bool wasSelected_ = false;           ///< when it was pressed

@@ -68,7 +68,7 @@ struct PasteSheet::Panel final : QWidget {
         painter.setPen(Qt::NoPen);
         if (!theme.isHighContrast())
             for (int i = kShadow; i > 0; i -= 2) {
-                painter.setBrush(QColor(0, 0, 0, 5));
+                painter.setBrush(QColor(0, 0, 0, 3));
                 painter.drawRoundedRect(body.adjusted(-i, 0, i, i), i + metrics::kGroupRadius,
                                         i + metrics::kGroupRadius);
             }

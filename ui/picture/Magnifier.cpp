@@ -1,7 +1,5 @@
 #include "ui/picture/Magnifier.h"
 
-#include "ui/shared/Theme.h"
-
 #include <QPainterPath>
 
 namespace tintra {
@@ -20,7 +18,7 @@ QRectF Magnifier::rect() const {
     return {middle.x() - kSide / 2, middle.y() - kSide / 2, kSide, kSide};
 }
 
-void Magnifier::paint(QPainter& painter, const Theme& theme) const {
+void Magnifier::paint(QPainter& painter) const {
     const auto glass = rect();
     painter.save();
     painter.setPen(Qt::NoPen);
@@ -31,8 +29,6 @@ void Magnifier::paint(QPainter& painter, const Theme& theme) const {
     painter.setBrush(color);
     painter.drawEllipse(glass);
     const auto inside = glass.adjusted(kRing, kRing, -kRing, -kRing);
-    painter.setBrush(theme.color(Token::ground));
-    painter.drawEllipse(inside);
     QPainterPath round;
     round.addEllipse(inside);
     painter.setClipPath(round, Qt::IntersectClip);

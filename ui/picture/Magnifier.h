@@ -7,8 +7,6 @@
 
 namespace tintra {
 
-class Theme;
-
 /// A round glass beside a place of a picture, five times as large as the picture is shown.
 struct Magnifier {
     QPointF place;  ///< in the view
@@ -18,7 +16,7 @@ struct Magnifier {
 
     /// Where the glass stands: 96 px above the place, or beneath where there is no room.
     QRectF rect() const;
-    void paint(QPainter& painter, const Theme& theme) const;
+    void paint(QPainter& painter) const;
 };
 
 } // namespace tintra

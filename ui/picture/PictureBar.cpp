@@ -141,13 +141,17 @@ void PictureBar::arrange() {
     const auto& theme = ui_.theme;
     const auto caption =
         QFontMetrics(theme.font(TextStyle::body)).horizontalAdvance(count_.accessibleName());
-    const auto controls = count_.sizeHint().width() + close_.sizeHint().width() + 2 * kInset;
-    const auto wide = emphases_.sizeHint().width(), narrow = emphasis_.sizeHint().width();
-    const auto add = add_.sizeHint().width();
-    const bool hasSegments = width() >= controls + wide + add + 3 * kGap;
-    const bool hasWords = width() >= controls + narrow + add + 3 * kGap;
+    const auto wide = [](const QWidget& widget) { return widget.sizeHint().width(); };
+    const auto controls = wide(count_) + wide(add_) + wide(close_) + 2 * kInset + 3 * kGap;
+    const bool hasSegments = width() >= controls + wide(emphases_);
+    const bool hasWords = width() >= controls + wide(emphasis_);
+    // In the narrowest window the Picture command still closes the picture.
+    const auto tight = wide(count_) + wide(emphasis_) + wide(plus_) + kInset + kGap;
+    const bool hasClose = hasWords || width() >= tight + wide(close_) + kGap / 2;
+    const bool hasEmphasis = hasWords || width() >= tight;
     const auto gap = hasWords ? kGap : kGap / 2;
-    auto right = width() - kInset;
+    const auto inset = hasWords ? kInset : kInset / 2;
+    auto right = width() - inset;
     const auto stand = [&](QWidget& widget, bool isShown) {
         widget.setVisible(isShown);
         if (!isShown) return;
@@ -156,11 +160,11 @@ void PictureBar::arrange() {
                            size.height());
         right -= size.width() + gap;
     };
-    stand(close_, true);
+    stand(close_, hasClose);
     stand(add_, hasWords);
     stand(plus_, !hasWords);
     stand(emphases_, hasSegments);
-    stand(emphasis_, !hasSegments);
+    stand(emphasis_, !hasSegments && hasEmphasis);
     stand(count_, true);
     captionRoom_ = nameRoom_ = {};
     if (right - kInset < caption) return;

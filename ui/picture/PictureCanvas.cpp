@@ -191,9 +191,13 @@ void PictureCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemSta
         drawPin(painter, disc, grown, mark.isOwn);
     };
     if (state.focused) {
-        // Seen on whatever the picture shows there.
-        ring(rings + 5, Qt::black);
-        ring(rings + 4, Qt::white);
+        // In two tones, so that it is seen on whatever the picture shows there.
+        painter.setBrush(Qt::NoBrush);
+        for (const auto& [color, width] : {std::pair{Qt::black, 4.0}, std::pair{Qt::white, 2.0}}) {
+            painter.setPen(QPen(QColor(color), width));
+            drawPin(painter, disc, rings + 4, mark.isOwn);
+        }
+        painter.setPen(Qt::NoPen);
     }
     ring(rings, Qt::black);
     ring(kWhite, Qt::white);
@@ -220,7 +224,7 @@ void PictureCanvas::paintOverlay(QPainter& painter) {
         const auto at = ((*place - glass.picture.topLeft()) * times).toPoint();
         if (copy_.detail().valid(at)) glass.color = copy_.detail().pixelColor(at);
     }
-    glass.paint(painter, theme());
+    glass.paint(painter);
 }
 
 void PictureCanvas::paintCrosshair(QPainter& painter, QPointF at) const {

@@ -52,6 +52,7 @@ void PictureCanvas::letGo() {
 
 void PictureCanvas::mousePressEvent(QMouseEvent* event) {
     const auto item = itemAt(event->position());
+    useKeyboard(false);
     if (event->button() != Qt::LeftButton || !hasPicture()) {
         if (item >= 0) setFocused(item);
         return;
@@ -164,7 +165,7 @@ void PictureCanvas::keyPressEvent(QKeyEvent* event) {
         Canvas::keyPressEvent(event);
         return;
     }
-    useKeyboard();
+    useKeyboard(true);
     const auto item = focused();
     if (const auto way = direction(event->key())) {
         nudge(*way * (event->modifiers().testFlag(Qt::ShiftModifier) ? kFar : 1));
@@ -233,7 +234,7 @@ int PictureCanvas::neighbour(int from, Qt::Key key) const {
 bool PictureCanvas::focusNextPrevChild(bool next) {
     const auto to = focused() + (next ? 1 : -1);
     if (to < -1 || to >= static_cast<int>(items().size())) return Canvas::focusNextPrevChild(next);
-    useKeyboard();
+    useKeyboard(true);
     setFocused(to);
     glass_.reset();
     update();

@@ -82,9 +82,9 @@ bool Canvas::showsFocus() const {
     return hasFocus() && (focusByKeyboard_ || theme_.isHighContrast());
 }
 
-void Canvas::useKeyboard() {
-    if (focusByKeyboard_) return;
-    focusByKeyboard_ = true;
+void Canvas::useKeyboard(bool uses) {
+    if (focusByKeyboard_ == uses) return;
+    focusByKeyboard_ = uses;
     repaintItem(focused_);
 }
 

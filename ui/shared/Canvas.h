@@ -66,8 +66,8 @@ protected:
     virtual void paintItem(QPainter& painter, const CanvasItem& item, ItemState state) = 0;
     /// After all items: insertion bars, rings that overlap neighbours.
     virtual void paintOverlay(QPainter&) {}
-    /// The keyboard is being used: the focus is shown from now on, though it came by a click.
-    void useKeyboard();
+    /// Whether the keyboard is being used: the focus is shown while it is, whatever brought it.
+    void useKeyboard(bool uses);
     /// Where an arrow, Home, End or Page key leads from an item; the nearest item in that direction
     /// unless overridden; -1 to stay.
     virtual int neighbour(int from, Qt::Key key) const;
