@@ -30,6 +30,19 @@ struct NameQuestion {
     /// Why a name cannot be taken, asked while typing; nothing for one that can.
     std::function<std::optional<std::string>(std::string_view name)> refusal;
     ToastPlace over;
+
+    /// What is said of a name that something has already, and the buttons that then stand in place
+    /// of `button`, left to right; the first is the default. "Cancel" follows them by itself.
+    struct Clash {
+        std::string text;
+        std::vector<std::string> buttons;
+    };
+    /// Asked while typing, of names that are not refused; nothing for a name that is free.
+    std::function<std::optional<Clash>(std::string_view name)> clash{};
+};
+struct NameAnswer {
+    std::string name;
+    std::optional<std::size_t> button{}; ///< of a clash; none without one
 };
 
 /// Asks where to save a palette and as what.
@@ -64,7 +77,7 @@ public:
     // The others answer nothing when the user cancels.
 
     virtual void askName(NameQuestion question,
-                         std::function<void(std::optional<std::string>)> answered) = 0;
+                         std::function<void(std::optional<NameAnswer>)> answered) = 0;
     virtual void askWhereToSave(SaveQuestion question,
                                 std::function<void(std::optional<SaveAnswer>)> answered) = 0;
     virtual void

@@ -22,14 +22,14 @@ struct AppState::Installing {
     /// Asks when there is a list of that name. Nothing is answered for Cancel.
     static void askAboutClash(AppState& state, std::string_view name,
                               std::function<void(std::optional<Clash>)> answered);
-    static void askToReplace(AppState& state, std::string_view name, std::string_view text,
-                             std::function<void(std::optional<Clash>)> answered);
     static void withColorsFolder(AppState& state, std::function<void(bool granted)> then);
-    static void askWhatToInstallAs(AppState& state, std::string title, std::string note,
-                                   std::function<void(std::string)> then);
-    static void install(AppState& state, const std::string& as);
+    static void askWhatToInstallAs(AppState& state, NameQuestion question,
+                                   std::function<void(std::string, Clash)> then);
+    static NameQuestion::Clash replaceOrKeepBoth(std::string_view text);
+    static void install(AppState& state, const std::string& as, Clash clash);
     static void installCopy(AppState& state, const std::string& as, Clash clash);
-    static void installInto(AppState& state, const InstallTarget& target, const std::string& as);
+    static void installInto(AppState& state, const InstallTarget& target, const std::string& as,
+                            Clash clash);
     static void askToRenameList(AppState& state, const std::string& as, Clash clash);
     static void renameList(AppState& state, const std::string& as, Clash clash);
     static void sayInstalled(AppState& state, const std::string& as,
@@ -92,14 +92,8 @@ void AppState::Installing::askAboutClash(AppState& state, std::string_view name,
         answered(Clash::keepBoth);
         return;
     }
-    askToReplace(state, name, kListExists, std::move(answered));
-}
-
-void AppState::Installing::askToReplace(AppState& state, std::string_view name,
-                                        std::string_view text,
-                                        std::function<void(std::optional<Clash>)> answered) {
     Question question{replaceTitle(name),
-                      std::string(text),
+                      std::string(kListExists),
                       {std::string(kReplace), std::string(kKeepBoth), std::string(kCancel)},
                       state.place()};
     state.context_.services.dialogues.ask(
@@ -132,42 +126,55 @@ void AppState::Installing::withColorsFolder(AppState& state,
 
 // Installing
 
-void AppState::Installing::askWhatToInstallAs(AppState& state, std::string title, std::string note,
-                                              std::function<void(std::string)> then) {
+NameQuestion::Clash AppState::Installing::replaceOrKeepBoth(std::string_view text) {
+    return {std::string(text), {std::string(kReplace), std::string(kKeepBoth)}};
+}
+
+void AppState::Installing::askWhatToInstallAs(AppState& state, NameQuestion question,
+                                              std::function<void(std::string, Clash)> then) {
     if (state.swatches().empty()) {
         state.toast(std::string(kNoSwatches), kForCounts);
         return;
     }
+    question.proposal = state.title();
+    question.button = "Install";
+    question.refusal = whyUnfit;
+    question.over = state.place();
     state.context_.services.dialogues.askName(
-        {std::move(title), std::move(note), state.title(), "Install", whyUnfit, state.place()},
-        whileAlive(state.alive_, [then = std::move(then)](const std::optional<std::string>& name) {
-            if (name) then(std::string(trimmed(*name)));
+        std::move(question),
+        whileAlive(state.alive_, [then = std::move(then)](const std::optional<NameAnswer>& answer) {
+            if (!answer) return;
+            // Without a clash nothing is replaced, whatever has come there meanwhile.
+            then(std::string(trimmed(answer->name)),
+                 answer->button == 0U ? Clash::replace : Clash::keepBoth);
         }));
 }
-
 void AppState::installInColourPicker() {
     Installing::withColorsFolder(*this, [this](bool granted) {
-        if (granted)
-            Installing::askWhatToInstallAs(
-                *this, "Install in the colour picker as", std::string(kInstallNote),
-                [this](const std::string& as) { Installing::install(*this, as); });
+        if (!granted) return;
+        NameQuestion question;
+        question.title = "Install in the colour picker as";
+        question.note = kInstallNote;
+        question.clash = [this](std::string_view name) -> std::optional<NameQuestion::Clash> {
+            const bool isOwn = home() == Home::colourPicker && trimmed(name) == title();
+            if (isOwn || !context_.store.hasNamed(trimmed(name))) return std::nullopt;
+            return Installing::replaceOrKeepBoth(kListExists);
+        };
+        Installing::askWhatToInstallAs(
+            *this, std::move(question),
+            [this](const std::string& as, Clash clash) { Installing::install(*this, as, clash); });
     });
 }
 
-void AppState::Installing::install(AppState& state, const std::string& as) {
-    if (state.home() == Home::colourPicker && as == state.title()) {
+void AppState::Installing::install(AppState& state, const std::string& as, Clash clash) {
+    if (state.home() == Home::colourPicker && as == state.title())
         state.savePalette();
-        return;
-    }
-    askAboutClash(state, as, [&state, as](std::optional<Clash> clash) {
-        if (!clash) return;
-        if (state.home() == Home::colourPicker)
-            askToRenameList(state, as, *clash);
-        else if (state.home() == Home::nowhere)
-            state.savePalette(as, *clash);
-        else
-            installCopy(state, as, *clash);
-    });
+    else if (state.home() == Home::colourPicker)
+        askToRenameList(state, as, clash);
+    else if (state.home() == Home::nowhere)
+        state.savePalette(as, clash);
+    else
+        installCopy(state, as, clash);
 }
 
 void AppState::Installing::askToRenameList(AppState& state, const std::string& as, Clash clash) {
@@ -218,25 +225,27 @@ void AppState::Installing::sayInstalled(AppState& state, const std::string& as,
 }
 
 void AppState::installFor(const InstallTarget& target) {
-    Installing::askWhatToInstallAs(
-        *this, installForTitle(target.title), target.folder.string(),
-        [this, target](const std::string& as) { Installing::installInto(*this, target, as); });
+    NameQuestion question;
+    question.title = installForTitle(target.title);
+    question.note = target.folder.string();
+    question.clash =
+        [folder = target.folder](std::string_view name) -> std::optional<NameQuestion::Clash> {
+        std::error_code ignored;
+        if (!std::filesystem::exists(folder / (fitFileName(name) + ".gpl"), ignored))
+            return std::nullopt;
+        return Installing::replaceOrKeepBoth(kPaletteExists);
+    };
+    Installing::askWhatToInstallAs(*this, std::move(question),
+                                   [this, target](const std::string& as, Clash clash) {
+                                       Installing::installInto(*this, target, as, clash);
+                                   });
 }
 
 void AppState::Installing::installInto(AppState& state, const InstallTarget& target,
-                                       const std::string& as) {
-    const auto install = [&state, target, as](std::optional<Clash> clash) {
-        if (!clash) return;
-        sayInstalled(
-            state, as,
-            state.context_.store.install(state.colors(), state.names(), as, target, *clash),
-            [&](std::string_view name) { return installedText(name, target.title); });
-    };
-    std::error_code ignored;
-    if (std::filesystem::exists(target.folder / (fitFileName(as) + ".gpl"), ignored))
-        askToReplace(state, as, kPaletteExists, install);
-    else
-        install(Clash::keepBoth);
+                                       const std::string& as, Clash clash) {
+    sayInstalled(state, as,
+                 state.context_.store.install(state.colors(), state.names(), as, target, clash),
+                 [&](std::string_view name) { return installedText(name, target.title); });
 }
 
 } // namespace tintra

@@ -241,8 +241,8 @@ void AppState::Loading::askFileName(AppState& state, NameQuestion question,
     };
     state.context_.services.dialogues.askName(
         std::move(question),
-        whileAlive(state.alive_, [&state, then](const std::optional<std::string>& name) {
-            if (name) (state.*then)(trimmed(*name));
+        whileAlive(state.alive_, [&state, then](const std::optional<NameAnswer>& answer) {
+            if (answer) (state.*then)(trimmed(answer->name));
         }));
 }
 

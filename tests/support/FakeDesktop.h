@@ -13,6 +13,7 @@
 #include "platform/Trash.h"
 #include "tests/support/ManualLoop.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <deque>
 #include <filesystem>
@@ -169,12 +170,20 @@ public:
         answered(button);
     }
     void askName(NameQuestion question,
-                 std::function<void(std::optional<std::string>)> answered) override {
-        auto name = take(names);
+                 std::function<void(std::optional<NameAnswer>)> answered) override {
+        const auto name = take(names);
+        auto answer = name ? std::optional(NameAnswer{*name}) : std::nullopt;
         if (name) refusal = question.refusal ? question.refusal(*name) : std::nullopt;
-        if (refusal) name.reset();
+        if (refusal) answer.reset();
+        clash = answer && question.clash ? question.clash(*name) : std::nullopt;
+        if (clash) {
+            const auto wanted = take(buttons);
+            const auto at = std::ranges::find(clash->buttons, wanted.value_or(""));
+            answer->button = static_cast<std::size_t>(at - clash->buttons.begin());
+            if (at == clash->buttons.end()) answer.reset();
+        }
         nameQuestions.push_back(std::move(question));
-        answered(std::move(name));
+        answered(std::move(answer));
     }
     void askWhereToSave(SaveQuestion question,
                         std::function<void(std::optional<SaveAnswer>)> answered) override {
@@ -197,7 +206,8 @@ public:
     std::vector<NameQuestion> nameQuestions;
     std::vector<SaveQuestion> saveQuestions;
     std::vector<OpenQuestion> openQuestions;
-    std::optional<std::string> refusal; ///< of the last name
+    std::optional<std::string> refusal;       ///< of the last name
+    std::optional<NameQuestion::Clash> clash; ///< of the last name
 
 private:
     template <class T>

@@ -27,7 +27,7 @@ public:
 
     void ask(Question question, std::function<void(std::size_t)> answered) override;
     void askName(NameQuestion question,
-                 std::function<void(std::optional<std::string>)> answered) override;
+                 std::function<void(std::optional<NameAnswer>)> answered) override;
     void askWhereToSave(SaveQuestion question,
                         std::function<void(std::optional<SaveAnswer>)> answered) override;
     void askWhatToOpen(OpenQuestion question,
