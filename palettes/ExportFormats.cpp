@@ -14,11 +14,14 @@ using Writer = std::optional<Bytes> (*)(std::string_view name, Entries entries,
                                         const FormatOptions& options);
 
 enum class Alpha { kept, dropped };
+enum class Content { text, bytes };
 
 struct FormatRow {
     ExportFormat value;
     std::string_view raw, title, extension;
     Alpha alpha;
+    Content content;
+    HexReading hex;
     Writer write;
 };
 
@@ -58,22 +61,23 @@ std::optional<Bytes> pngBytes(std::string_view /*name*/, Entries entries,
 }
 
 using enum ExportFormat;
+using enum HexReading;
 
 // clang-format off
 constexpr std::array kFormats{
-    FormatRow{json,     "json",     "JSON",                  "json", Alpha::kept,    text<PaletteExport::json>},
-    FormatRow{xml,      "xml",      "XML",                   "xml",  Alpha::kept,    text<PaletteExport::xml>},
-    FormatRow{html,     "html",     "HTML",                  "html", Alpha::kept,    text<PaletteExport::html>},
-    FormatRow{markdown, "markdown", "Markdown",              "md",   Alpha::kept,    text<PaletteExport::markdown>},
-    FormatRow{svg,      "svg",      "SVG",                   "svg",  Alpha::kept,    svgBytes},
-    FormatRow{css,      "css",      "CSS",                   "css",  Alpha::kept,    text<PaletteExport::css>},
-    FormatRow{scss,     "scss",     "SCSS",                  "scss", Alpha::kept,    text<PaletteExport::scss>},
-    FormatRow{sass,     "sass",     "Sass",                  "sass", Alpha::kept,    text<PaletteExport::sass>},
-    FormatRow{less,     "less",     "Less",                  "less", Alpha::kept,    text<PaletteExport::less>},
-    FormatRow{ase,      "ase",      "Adobe Swatch Exchange", "ase",  Alpha::dropped, aseBytes},
-    FormatRow{clr,      "clr",      "Apple Colour List",     "clr",  Alpha::kept,    clrBytes},
-    FormatRow{gpl,      "gpl",      "GIMP Palette",          "gpl",  Alpha::dropped, gplBytes},
-    FormatRow{png,      "png",      "PNG Image",             "png",  Alpha::kept,    pngBytes},
+    FormatRow{json,     "json",     "JSON",                  "json", Alpha::kept,     Content::text,  caseAndHash, text<PaletteExport::json>},
+    FormatRow{xml,      "xml",      "XML",                   "xml",  Alpha::kept,     Content::text,  caseAndHash, text<PaletteExport::xml>},
+    FormatRow{html,     "html",     "HTML",                  "html", Alpha::kept,     Content::text,  caseAndHash, text<PaletteExport::html>},
+    FormatRow{markdown, "markdown", "Markdown",              "md",   Alpha::kept,     Content::text,  caseAndHash, text<PaletteExport::markdown>},
+    FormatRow{svg,      "svg",      "SVG",                   "svg",  Alpha::kept,     Content::text,  letterCase,  svgBytes},
+    FormatRow{css,      "css",      "CSS",                   "css",  Alpha::kept,     Content::text,  letterCase,  text<PaletteExport::css>},
+    FormatRow{scss,     "scss",     "SCSS",                  "scss", Alpha::kept,     Content::text,  letterCase,  text<PaletteExport::scss>},
+    FormatRow{sass,     "sass",     "Sass",                  "sass", Alpha::kept,     Content::text,  letterCase,  text<PaletteExport::sass>},
+    FormatRow{less,     "less",     "Less",                  "less", Alpha::kept,     Content::text,  letterCase,  text<PaletteExport::less>},
+    FormatRow{ase,      "ase",      "Adobe Swatch Exchange", "ase",  Alpha::dropped,  Content::bytes, none,        aseBytes},
+    FormatRow{clr,      "clr",      "Apple Colour List",     "clr",  Alpha::kept,     Content::bytes, none,        clrBytes},
+    FormatRow{gpl,      "gpl",      "GIMP Palette",          "gpl",  Alpha::dropped,  Content::text,  none,        gplBytes},
+    FormatRow{png,      "png",      "PNG Image",             "png",  Alpha::kept,     Content::bytes, none,        pngBytes},
 };
 // clang-format on
 
@@ -96,6 +100,14 @@ std::string_view fileExtension(ExportFormat format) {
 
 bool holdsAlpha(ExportFormat format) {
     return rowOf(kFormats, format).alpha == Alpha::kept;
+}
+
+bool isText(ExportFormat format) {
+    return rowOf(kFormats, format).content == Content::text;
+}
+
+HexReading hexReading(ExportFormat format) {
+    return rowOf(kFormats, format).hex;
 }
 
 std::span<const ExportFormat> allExportFormats() {

@@ -40,6 +40,13 @@ std::optional<ExportFormat> exportFormatForExtension(std::string_view extension)
 std::span<const ExportFormat> allExportFormats();
 /// Whether a file of the format can hold alpha.
 bool holdsAlpha(ExportFormat format);
+/// Whether it is text, which can be pasted.
+bool isText(ExportFormat format);
+
+/// Which of the options about hex codes a format reads: none as it holds none, the letters' case
+/// alone as "#" always stands before its codes, or the case and "#".
+enum class HexReading { none, letterCase, caseAndHash };
+HexReading hexReading(ExportFormat format);
 
 /// A palette written as the bytes of a file. Pure functions (names come from ColorNames, inks from
 /// ColorProfiles); any thread.

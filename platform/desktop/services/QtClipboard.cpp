@@ -20,7 +20,12 @@ float component(double value) {
 
 void QtClipboard::set(const Content& content) {
     auto data = std::make_unique<QMimeData>();
-    data->setText(QString::fromStdString(content.text));
+    if (!content.text.empty() || content.png.empty())
+        data->setText(QString::fromStdString(content.text));
+    if (!content.png.empty())
+        data->setData(QStringLiteral("image/png"),
+                      QByteArray(reinterpret_cast<const char*>(content.png.data()),
+                                 static_cast<qsizetype>(content.png.size())));
     if (content.colour) {
         const auto [r, g, b, a] = *content.colour;
         data->setColorData(
