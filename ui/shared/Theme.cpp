@@ -54,6 +54,7 @@ constexpr std::array kStyles{
     StyleRow{TextStyle::control, Face::text, 13, 20, QFont::Medium},
     StyleRow{TextStyle::name, Face::text, 13, 20, QFont::DemiBold},
     StyleRow{TextStyle::title, Face::text, 16, 24, QFont::DemiBold},
+    StyleRow{TextStyle::question, Face::text, 16, 22, QFont::DemiBold},
     StyleRow{TextStyle::figure, Face::text, 20, 24, QFont::DemiBold},
     StyleRow{TextStyle::bigFigure, Face::display, 44, 48, QFont::Medium},
     StyleRow{TextStyle::quotation, Face::display, 30, 40, QFont::Normal},

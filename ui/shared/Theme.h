@@ -44,6 +44,7 @@ enum class TextStyle {
     control,    ///< 13/20, medium
     name,       ///< 13/20, semi-bold
     title,      ///< 16/24, semi-bold
+    question,   ///< 16/22, semi-bold: the title of a dialogue
     figure,     ///< 20/24, semi-bold
     bigFigure,  ///< 44/48, medium, display
     quotation,  ///< 30/40, display

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "platform/Dialogues.h"
+#include "ui/shared/FileChooser.h"
 
-#include <QPointer>
-#include <QWidget>
 #include <functional>
+
+class QWidget;
 
 namespace tintra {
 
@@ -34,7 +35,10 @@ public:
                        std::function<void(std::optional<std::filesystem::path>)> answered) override;
 
 private:
+    QWidget* over(const ToastPlace& place) const;
+
     const Theme* theme_ = nullptr;
+    FileChooser chooser_;
 };
 
 } // namespace tintra
