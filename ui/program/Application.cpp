@@ -2,6 +2,7 @@
 
 #include "state/Preferences.h"
 #include "state/Workspaces.h"
+#include "ui/exporting/ExportDialogue.h"
 #include "ui/help/AboutWindow.h"
 #include "ui/help/ShortcutsWindow.h"
 #include "ui/palette/PaletteWindow.h"
@@ -11,6 +12,7 @@
 
 #include <QApplication>
 #include <QSessionManager>
+#include <utility>
 
 namespace tintra {
 namespace {
@@ -40,6 +42,14 @@ Application::Application()
     installCanvasAccessibility();
     dialogues_.setTheme(theme_);
     dialogues_.windowOf = [this](const ToastPlace& place) { return window(place); };
+    dialogues_.saveDialogue = [this](const SaveQuestion& question, auto answered) {
+        auto* state = models_.workspaces().state(question.over.palette);
+        if (state)
+            (new ExportDialogue(ui_, *state, question, std::move(answered), window(question.over)))
+                ->open();
+        else
+            answered(std::nullopt);
+    };
     toasts_.barOf = [this](const ToastPlace& place) -> NoticeBar* {
         auto* window = place.window == ToastWindow::palette ? palette(place.palette) : nullptr;
         return window ? &window->notices() : nullptr;
