@@ -4,21 +4,42 @@
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QApplication>
 #include <QEvent>
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace tintra {
 namespace {
 
 constexpr std::size_t kKept = 20;
-constexpr int kHeight = 36, kSide = 14, kGap = 18;
+constexpr int kHeight = 36, kSide = 14, kGap = 14;
 /// How long a notice stays while a screen reader may be reading it out, seconds.
 constexpr double kRead = 6;
+/// No window has room for more characters.
+constexpr qsizetype kMeasured = 1000;
+
+/// A notice as a screen reader meets it.
+class NoticeInterface final : public QAccessibleWidget {
+public:
+    explicit NoticeInterface(NoticeBar* notice)
+        : QAccessibleWidget(notice, QAccessible::AlertMessage) {}
+
+    QStringList actionNames() const override { return {pressAction()}; }
+    void doAction(const QString& name) override {
+        if (name == pressAction()) static_cast<NoticeBar*>(object())->act();
+    }
+};
+
+QAccessibleInterface* interfaceOf(const QString&, QObject* object) {
+    auto* notice = dynamic_cast<NoticeBar*>(object);
+    return notice ? new NoticeInterface(notice) : nullptr;
+}
 
 } // namespace
 
@@ -32,6 +53,13 @@ NoticeBar::NoticeBar(Theme& theme, MainLoop& loop, QWidget* over)
     setFocusPolicy(Qt::ClickFocus);
     hide();
     over->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* before, QWidget* now) {
+        if (now == this) cameFrom_ = before;
+    });
+    [[maybe_unused]] static const bool once = [] {
+        QAccessible::installFactory(interfaceOf);
+        return true;
+    }();
 }
 
 NoticeBar::~NoticeBar() = default;
@@ -46,7 +74,10 @@ void NoticeBar::present(const QString& text, double seconds, std::optional<Toast
     show();
     raise();
     update();
-    startClock();
+    if (underMouse() || hasFocus())
+        clock_.reset();
+    else
+        startClock();
     QAccessibleEvent event(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
 }
@@ -54,6 +85,8 @@ void NoticeBar::present(const QString& text, double seconds, std::optional<Toast
 void NoticeBar::dismiss() {
     clock_.reset();
     action_.reset();
+    // The keyboard goes back to where it came from.
+    if (hasFocus() && cameFrom_) cameFrom_->setFocus(Qt::OtherFocusReason);
     hide();
 }
 
@@ -67,10 +100,11 @@ void NoticeBar::startClock() {
 }
 
 void NoticeBar::place() {
-    const QFontMetrics words(theme_.font(TextStyle::control));
-    auto width = words.horizontalAdvance(text_) + 2 * kSide;
-    if (action_) width += kGap + words.horizontalAdvance(fromUtf8(action_->title));
-    width = std::min(width, parentWidget()->width() - 2 * kSide);
+    const QFontMetricsF words(theme_.font(TextStyle::control));
+    auto wanted = words.horizontalAdvance(text_.left(kMeasured)) + 2 * kSide;
+    if (action_) wanted += kGap + words.horizontalAdvance(shown(action_->title));
+    const auto room = qreal(parentWidget()->width() - 2 * kSide);
+    const auto width = static_cast<int>(std::ceil(std::min(wanted, room)));
     const auto height = theme_.scaled(kHeight);
     setGeometry((parentWidget()->width() - width) / 2, top_, width, height);
 }
@@ -111,7 +145,11 @@ void NoticeBar::leaveEvent(QEvent*) {
     if (isVisible() && !hasFocus()) startClock();
 }
 
-void NoticeBar::mousePressEvent(QMouseEvent*) {
+void NoticeBar::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) act();
+}
+
+void NoticeBar::act() {
     // The action may show a notice of its own, which replaces this one.
     const auto action = std::exchange(action_, std::nullopt);
     dismiss();
@@ -123,7 +161,7 @@ void NoticeBar::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-        mousePressEvent(nullptr);
+        act();
         break;
     case Qt::Key_Escape:
         dismiss();

@@ -2,6 +2,7 @@
 
 #include "platform/Toasts.h"
 
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 #include <deque>
@@ -34,6 +35,8 @@ public:
     void present(const QString& text, double seconds, std::optional<ToastAction> action);
     const QString& text() const { return text_; }
     void dismiss();
+    /// Goes, and does what the notice offers.
+    void act();
     /// Px below the top of the parent.
     void setTop(int top);
 
@@ -57,6 +60,7 @@ private:
     double seconds_ = 0;
     std::optional<ToastAction> action_;
     std::unique_ptr<DelayedTask> clock_;
+    QPointer<QWidget> cameFrom_; ///< what had the keyboard before
     int top_ = 12;
 };
 
