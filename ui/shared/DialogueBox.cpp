@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -54,6 +55,18 @@ DialogueBox::DialogueBox(const Theme& theme, const Question& question, QWidget* 
     }
     setButtons(question.buttons);
     if (!buttons_.empty()) buttons_.front()->setFocus();
+}
+
+void DialogueBox::open() {
+    if (const auto* over = parentWidget()) {
+        adjustSize();
+        const auto room = over->screen()->availableGeometry();
+        auto place = rect();
+        place.moveCenter(over->window()->geometry().center());
+        move(std::clamp(place.x(), room.left(), std::max(room.left(), room.right() - width())),
+             std::clamp(place.y(), room.top(), std::max(room.top(), room.bottom() - height())));
+    }
+    QDialog::open();
 }
 
 void DialogueBox::add(QWidget* part) {

@@ -21,14 +21,16 @@ class WarningLine;
 
 /// A question over a window: its title, its text, and its buttons at the right in the order given,
 /// the first the default. Esc and closing mean the button called "Cancel", else the last one. It
-/// deletes itself when it closes; when its window goes first it answers nothing. Shown by `open`.
-/// Main loop.
+/// deletes itself when it closes; when its window goes first it answers nothing. Main loop.
 class DialogueBox : public QDialog {
 public:
     DialogueBox(const Theme& theme, const Question& question, QWidget* over);
 
     /// Is told the button, once, when the box closes.
     std::function<void(std::size_t)> answered;
+
+    /// Shows it over the middle of its window.
+    void open() override;
 
 protected:
     DialogueBox(const Theme& theme, const std::string& title, QWidget* over);
