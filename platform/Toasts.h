@@ -14,6 +14,7 @@ enum class ToastWindow {
     bench,
     contrast,
     library,
+    settings,
     none, ///< no window at all: a notification of the desktop
 };
 

@@ -32,6 +32,7 @@ std::string freeUntitledName(std::span<const std::string> taken) {
 
 AppState::AppState(Uuid id, bool isPrimary, AppContext context)
     : id_(id), isPrimary_(isPrimary), context_(context),
+      locations_(context.services, context.preferences, place()),
       untitledName_(freeUntitledName(context.windows.untitledNames(id))),
       quote_(anyQuote(context.services.chance)), seeds_(defaultSeeds()) {
     subscribe();

@@ -15,6 +15,7 @@
 #include "state/EditorBuffer.h"
 #include "state/Geometry.h"
 #include "state/ImageSource.h"
+#include "state/PaletteLocations.h"
 #include "state/PaletteWindows.h"
 #include "state/Quote.h"
 #include "state/StoredWorkspace.h"
@@ -349,7 +350,6 @@ private:
     struct Loading;
     struct Saving;
     struct Installing;
-    struct Watching;
     struct Extracting;
     struct Persisted;
     struct PinMove {
@@ -414,6 +414,7 @@ private:
     const Uuid id_;
     const bool isPrimary_;
     AppContext context_;
+    PaletteLocations locations_;
     std::string untitledName_;
     Quote quote_;
     QProperty<Seeds> seeds_;

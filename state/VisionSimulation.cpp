@@ -35,6 +35,7 @@ QProperty<Vision>* VisionSimulation::visionOfFront() const {
     case ToastWindow::contrast:
         return &contrast_.vision;
     case ToastWindow::library:
+    case ToastWindow::settings:
     case ToastWindow::none:
         break;
     }
@@ -68,6 +69,7 @@ FrontCapabilities VisionSimulation::capabilities() const {
         offered.clears = Clears::contrast;
         break;
     case ToastWindow::library:
+    case ToastWindow::settings:
     case ToastWindow::none:
         break;
     }
