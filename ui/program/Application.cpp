@@ -51,6 +51,7 @@ Application::Application()
             answered(std::nullopt);
     };
     toasts_.barOf = [this](const ToastPlace& place) -> NoticeBar* {
+        if (place.window == ToastWindow::settings && settings_) return &settings_->notices();
         auto* window = place.window == ToastWindow::palette ? palette(place.palette) : nullptr;
         return window ? &window->notices() : nullptr;
     };
@@ -129,6 +130,7 @@ std::vector<PaletteWindow*> Application::palettes() const {
 }
 
 QWidget* Application::window(const ToastPlace& place) const {
+    if (place.window == ToastWindow::settings) return settings_;
     return place.window == ToastWindow::palette ? palette(place.palette) : nullptr;
 }
 

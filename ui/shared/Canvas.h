@@ -20,8 +20,9 @@ struct CanvasItem {
     std::size_t index = 0; ///< which of its kind
     // What accessibility says of it. Items without a role are drawn and hit but not walked to.
     QAccessible::Role role = QAccessible::NoRole;
-    QString name, value, description;
+    QString name{}, value{}, description{};
     bool selected = false;
+    std::optional<bool> checked{}; ///< none for what is not checked and unchecked
 };
 
 /// A painted view of items: one stop of the Tab key, walked with the arrows. A subclass says where

@@ -57,6 +57,8 @@ public:
         if (!it) return state;
         state.focusable = state.selectable = true;
         state.selected = it->selected;
+        state.checkable = it->checked.has_value();
+        state.checked = it->checked.value_or(false);
         state.focused = canvas_->hasFocus() && canvas_->focused() == index_;
         state.invisible = !canvas_->isVisible();
         return state;
