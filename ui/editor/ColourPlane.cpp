@@ -8,7 +8,6 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <span>
 
@@ -17,18 +16,22 @@ namespace {
 
 constexpr int kRadius = 4;
 
-/// One row: from grey to the pure hue, both at one brightness.
+/// One row: from grey to the pure hue, both at one brightness; in 65536ths of a byte.
 void fillRow(std::span<std::uint8_t> rgba, const Rgb& pure, double brightness) {
-    const auto pixels = rgba.size() / 4;
-    const auto step = pixels > 1 ? 1.0 / static_cast<double>(pixels - 1) : 0;
-    const auto white = brightness * 255;
-    const std::array fall{white * (1 - pure.r), white * (1 - pure.g), white * (1 - pure.b)};
-    for (std::size_t i = 0; i < pixels; ++i) {
-        const auto saturation = static_cast<double>(i) * step;
-        for (std::size_t channel = 0; channel < 3; ++channel)
-            rgba[4 * i + channel] =
-                static_cast<std::uint8_t>(white - saturation * fall[channel] + 0.5);
-        rgba[4 * i + 3] = 255;
+    constexpr double kOne = 65536;
+    const auto pixels = static_cast<int>(rgba.size() / 4);
+    const auto white = brightness * 255 * kOne;
+    const auto step = [&](double share) {
+        return static_cast<int>(white * (1 - share) / std::max(1, pixels - 1));
+    };
+    const int red = step(pure.r), green = step(pure.g), blue = step(pure.b);
+    const int first = static_cast<int>(white + kOne / 2);
+    auto* pixel = rgba.data();
+    for (int i = 0; i < pixels; ++i, pixel += 4) {
+        pixel[0] = static_cast<std::uint8_t>((first - i * red) >> 16);
+        pixel[1] = static_cast<std::uint8_t>((first - i * green) >> 16);
+        pixel[2] = static_cast<std::uint8_t>((first - i * blue) >> 16);
+        pixel[3] = 255;
     }
 }
 

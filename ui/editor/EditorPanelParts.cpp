@@ -215,7 +215,7 @@ void EditorPanel::resizeEvent(QResizeEvent*) {
 void EditorPanel::place() {
     // The panel's line takes the first pixel.
     foot_->layout()->activate();
-    const auto foot = foot_->heightForWidth(width());
+    const auto foot = std::max(foot_->heightForWidth(width()), foot_->sizeHint().height());
     foot_->setGeometry(0, height() - foot, width(), foot);
     area_->setGeometry(1, 0, width() - 1, height() - foot);
     body_->resize(width() - 1, placeBody());

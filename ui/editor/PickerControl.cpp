@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
+#include <cmath>
 
 namespace tintra {
 namespace {
@@ -172,19 +173,25 @@ void PickerControl::focusOutEvent(QFocusEvent* event) {
 }
 
 void roundCorners(QImage& picture, qreal radius) {
-    QImage mask(picture.size(), QImage::Format_ARGB32_Premultiplied);
-    mask.fill(Qt::transparent);
+    // Only the corners are touched: a plane has hundreds of thousands of pixels.
+    const auto reach = static_cast<int>(std::ceil(radius));
+    QImage disc(2 * reach, 2 * reach, QImage::Format_ARGB32_Premultiplied);
+    disc.fill(Qt::transparent);
     {
-        QPainter painter(&mask);
+        QPainter painter(&disc);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
         painter.setBrush(Qt::black);
-        painter.drawRoundedRect(mask.rect(), radius, radius);
+        painter.drawEllipse(QPointF(reach, reach), radius, radius);
     }
     picture.convertTo(QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&picture);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-    painter.drawImage(0, 0, mask);
+    for (const bool right : {false, true})
+        for (const bool low : {false, true})
+            painter.drawImage(
+                QPoint(right ? picture.width() - reach : 0, low ? picture.height() - reach : 0),
+                disc, QRect(right ? reach : 0, low ? reach : 0, reach, reach));
 }
 
 } // namespace tintra
