@@ -101,32 +101,6 @@ TEST_F(ExportTest, EveryFormatIsShownAsItIsSaved) {
     }
 }
 
-TEST_F(ExportTest, ChipsStandBeforeTheCodes) {
-    // Names that look like what stands before codes.
-    const char* names[] = {"\"hex\": \"#00ff00", "a | b | #00ff00",
-                           ": #00ff00; background:", "\n#\n"};
-    for (std::size_t i = 0; i < 4; ++i)
-        state.addToPalette(Desk::colour(i), AppState::Duplicates::allow, std::string(names[i]));
-    for (const auto format : allExportFormats()) {
-        if (!isText(format) || format == ExportFormat::svg) continue;
-        show(std::string(rawValue(format)).c_str(), "\"colors\": [ #\n: x | y");
-        const auto& sample = part<ExportPreview>().sample();
-        ASSERT_EQ(sample.chips.size(), state.colors().size()) << rawValue(format);
-        for (std::size_t i = 0; i < sample.chips.size(); ++i) {
-            const auto& chip = sample.chips[i];
-            const auto rgb = state.colors()[i].srgb255();
-            const auto code =
-                format == ExportFormat::gpl
-                    ? QStringLiteral("%1 %2 %3").arg(rgb.r, 3).arg(rgb.g, 3).arg(rgb.b, 3)
-                    : QString::asprintf("#%02x%02x%02x", rgb.r, rgb.g, rgb.b);
-            EXPECT_TRUE(sample.lines[chip.line].mid(chip.character).startsWith(code))
-                << rawValue(format) << " " << toUtf8(sample.lines[chip.line]);
-        }
-        dialogue->reject();
-        desk.settle();
-    }
-}
-
 TEST_F(ExportTest, TheListIsAKeyboardList) {
     show("css");
     auto& list = part<ExportFormatList>();
@@ -154,6 +128,20 @@ TEST_F(ExportTest, TheListIsAKeyboardList) {
     press("Return");
     desk.settle();
     EXPECT_EQ(answers.at(0).value().format, "json") << "Enter saves from anywhere";
+}
+
+TEST_F(ExportTest, TabWalksFromTheNameThroughEverything) {
+    show("json");
+    Texts walked;
+    for (int i = 0; i < 9; ++i) {
+        walked.push_back(toUtf8(QAccessible::queryAccessibleInterface(QApplication::focusWidget())
+                                    ->text(QAccessible::Name)));
+        press("Tab");
+    }
+    EXPECT_THAT(walked,
+                ElementsAre("Name", testing::StartsWith("Folder: "), "Save", "Copy", "Cancel",
+                            "Format", "Preview of the file", "Upper-case hex", "# before hex"));
+    EXPECT_EQ(QApplication::focusWidget(), &part<FileNameField>());
 }
 
 TEST_F(ExportTest, OptionsAreOnWhereTheFormatReadsThem) {
@@ -211,20 +199,20 @@ TEST_F(ExportTest, SaysWhatAFormatLosesAndWhyANameIsRefused) {
     EXPECT_THAT(warnings(), ElementsAre(alpha));
     EXPECT_EQ(part<ExportPreview>().sample().rows[1].lost, u"alpha 50% is left out");
     struct Row {
-        const char *typed, *sentence, *file;
+        const char *typed, *sentence;
     };
     const Row rows[] = {
-        {"", "A palette needs a name.", nullptr},
-        {"a/b", "A name cannot hold “/”.", nullptr},
-        {".hidden", "A name cannot begin with a full stop.", nullptr},
-        {"  Brand  ", nullptr, "Brand.ase"},
-        {"Brand.ASE", nullptr, "Brand.ase"},
-        {"Brand.v2", nullptr, "Brand.v2.ase"},
+        {"", "A palette needs a name."},
+        {"a/b", "A name cannot hold “/”."},
+        {".hidden", "A name cannot begin with a full stop."},
+        {"  Brand  ", nullptr},
+        {"Brand.ASE", nullptr},
+        {"Brand.v2", nullptr},
     };
     auto& field = part<FileNameField>();
     for (const auto& row : rows) {
         field.setText(QString::fromUtf8(row.typed));
-        EXPECT_EQ(button("Save").isEnabled(), row.sentence == nullptr) << row.typed;
+        EXPECT_EQ(button("Save").isEnabled(), !row.sentence) << row.typed;
         EXPECT_EQ(warnings(), row.sentence ? Texts({alpha, row.sentence}) : Texts{alpha});
     }
     field.setText(QString(10000, QLatin1Char('x')));

@@ -35,7 +35,7 @@
 namespace tintra {
 namespace {
 
-constexpr int kWidth = 860, kHeight = 600, kLeastWidth = 640, kLeastHeight = 420;
+constexpr int kWidth = 860, kHeight = 600, kLeastName = 140, kLeastPreview = 120;
 constexpr int kMargin = 16, kGap = 8;
 constexpr int kFolderWidth = 150;
 
@@ -137,8 +137,7 @@ void ExportDialogue::build() {
     row->addLayout(column, 1);
     connectParts();
     parts_->save->setDefault(true);
-    setMinimumSize(kLeastWidth, kLeastHeight);
-    resize(kWidth, kHeight);
+    resize(ui_.theme.scaled(kWidth), ui_.theme.scaled(kHeight));
     parts_->name->selectAll();
     parts_->name->setFocus();
 }
@@ -160,6 +159,7 @@ QWidget* ExportDialogue::buildPreview() {
     column->setSpacing(12);
     column->addWidget(parts_->strip);
     auto* frame = new RaisedFrame(ui_.theme, scrolling(parts_->preview, QPalette::Base));
+    frame->setMinimumHeight(kLeastPreview);
     column->addWidget(frame, 1);
     parts_->notices = new NoticeBar(ui_.theme, ui_.services.mainLoop, frame);
     return ground;
@@ -191,6 +191,7 @@ QWidget* ExportDialogue::buildFoot() {
     p.name = new FileNameField(ui_.theme);
     const auto proposed = fitFileName(question_.name);
     p.name->setText(fromUtf8(proposed));
+    p.name->setMinimumWidth(ui_.theme.scaled(kLeastName));
     p.folder = new QPushButton;
     p.save = new QPushButton(shown(SaveTexts::kSave));
     p.copy = new QPushButton(worded("Copy"));

@@ -21,7 +21,7 @@ QString extensionOf(ExportFormat format) {
 
 ExportFormatList::ExportFormatList(Theme& theme, QWidget* parent) : Canvas(theme, parent) {
     setAccessibleName(worded("Format"));
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
 }
 
 QSize ExportFormatList::sizeHint() const {
@@ -90,6 +90,12 @@ void ExportFormatList::keyPressEvent(QKeyEvent* event) {
         return;
     }
     Canvas::keyPressEvent(event);
+}
+
+void ExportFormatList::resizeEvent(QResizeEvent* event) {
+    Canvas::resizeEvent(event);
+    const auto at = static_cast<std::size_t>(chosen_);
+    if (wantsVisible && at < items().size()) wantsVisible(items()[at].rect.toAlignedRect());
 }
 
 void ExportFormatList::focusInEvent(QFocusEvent* event) {

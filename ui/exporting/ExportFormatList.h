@@ -21,7 +21,8 @@ public:
     std::function<void(const QRect&)> wantsVisible;
 
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    /// Leaves room for a scroll bar.
+    QSize minimumSizeHint() const override { return sizeHint() - QSize(16, 0); }
 
 protected:
     std::vector<CanvasItem> layoutItems(QSizeF size) const override;
@@ -30,6 +31,7 @@ protected:
     void focusMoved(int item) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 
 private:
