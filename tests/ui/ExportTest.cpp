@@ -56,12 +56,6 @@ protected:
         click(button(text), button(text).rect().center());
         desk.settle();
     }
-    std::vector<std::string> lines() const {
-        std::vector<std::string> texts;
-        for (const auto& line : part<ExportPreview>().sample().lines)
-            texts.push_back(toUtf8(line));
-        return texts;
-    }
     /// The sentences that warn now.
     std::vector<std::string> warnings() const {
         std::vector<std::string> texts;
@@ -264,13 +258,12 @@ TEST_F(ExportTest, ShowsTheLatestOfManyChangesAndLargePalettes) {
     show("json");
     desk.desktop.background.holds = true;
     auto& field = part<FileNameField>();
-    field.setText(QStringLiteral("One"));
-    field.setText(QStringLiteral("Two"));
-    field.setText(QStringLiteral("Three"));
+    for (const char* name : {"One", "Two", "Three"})
+        field.setText(QString::fromUtf8(name));
     desk.desktop.background.holds = false;
     desk.desktop.background.finish();
     desk.settle();
-    EXPECT_EQ(lines().at(1), "  \"name\": \"Three\",");
+    EXPECT_EQ(part<ExportPreview>().sample().lines.at(1), u"  \"name\": \"Three\",");
     EXPECT_EQ(toUtf8(part<FigureLabel>().accessibleName()).find("2 swatches · "), 0U);
     for (std::size_t i = 0; i < 254; ++i)
         state.addToPalette(Desk::colour(i), AppState::Duplicates::allow, std::string(10000, 'x'));
@@ -281,7 +274,6 @@ TEST_F(ExportTest, ShowsTheLatestOfManyChangesAndLargePalettes) {
     EXPECT_TRUE(accessible(part<ExportPreview>(), "        \"hex\": \"#ff0000\","));
     part<ExportPreview>().setFocus(Qt::TabFocusReason);
     press("End");
-    EXPECT_FALSE(part<ExportPreview>().visibleRegion().isEmpty());
     EXPECT_GT(part<ExportPreview>().visibleRegion().boundingRect().top(), 20000);
     grab(*dialogue, "export-256");
 }
