@@ -41,7 +41,7 @@ QImage blocks() {
 /// A picture beside nothing, with its bar beneath it.
 class PictureTest : public testing::Test {
 protected:
-    explicit PictureTest(Appearance appearance = Appearance::light) : desk(appearance) {
+    PictureTest() {
         auto* column = new QVBoxLayout(&window);
         column->setContentsMargins(0, 0, 0, 0);
         column->setSpacing(0);
@@ -259,6 +259,15 @@ TEST_F(PictureTest, KeepsWithinANarrowWindow) {
         EXPECT_TRUE(QRectF(canvas().rect()).contains(canvas().pictureRect())) << width;
         test::grab(window, "picture-" + std::to_string(width));
     }
+    desk.models.preferences().appearance = Appearance::dark;
+    desk.models.preferences().typeSize = TypeSize::largest;
+    desk.settings.prefersHighContrast = true;
+    desk.applyStyle();
+    focusByTab();
+    press("Tab");
+    press("Right");
+    EXPECT_GT(canvas().items()[0].rect.width(), 40); // grown with the text
+    test::grab(window, "picture-hc");
 }
 
 TEST_F(PictureTest, TakesDroppedPicturesOnly) {
@@ -267,41 +276,34 @@ TEST_F(PictureTest, TakesDroppedPicturesOnly) {
     blocks().scaled(30, 20).save(QString::fromStdString(file.string()));
     const auto nonsense = desk.folder / "nonsense.bin";
     std::ofstream(nonsense) << "nothing";
-    const auto urls = [](std::vector<std::filesystem::path> files) {
-        QList<QUrl> all;
-        for (const auto& one : files)
-            all.push_back(QUrl::fromLocalFile(QString::fromStdString(one.string())));
-        return all;
+    using Files = std::vector<std::filesystem::path>;
+    const auto files = [](const Files& all) {
+        auto data = std::make_unique<QMimeData>();
+        QList<QUrl> urls;
+        for (const auto& one : all)
+            urls.push_back(QUrl::fromLocalFile(QString::fromStdString(one.string())));
+        data->setUrls(urls);
+        return data;
     };
-    struct Case {
-        const char* what;
-        std::function<void(QMimeData&)> fill;
-        std::string shown;
+    QMimeData text, colour, picture;
+    text.setText(QStringLiteral("#f00"));
+    colour.setColorData(QColor(Qt::red));
+    picture.setImageData(blocks());
+    const std::vector<std::pair<Files, std::string>> cases{
+        {{desk.folder / "a.gpl"}, "Blocks.png"},      {{nonsense}, "Blocks.png"},
+        {{desk.folder / ""}, "Blocks.png"},           {{desk.folder / "gone.png"}, "Blocks.png"},
+        {{desk.folder / "a.ase", file}, "other.png"},
     };
-    const std::vector<Case> cases{
-        {"text", [](QMimeData& data) { data.setText(QStringLiteral("#f00")); }, "Blocks.png"},
-        {"a colour", [](QMimeData& data) { data.setColorData(QColor(Qt::red)); }, "Blocks.png"},
-        {"a palette", [&](QMimeData& data) { data.setUrls(urls({desk.folder / "a.gpl"})); },
-         "Blocks.png"},
-        {"nonsense", [&](QMimeData& data) { data.setUrls(urls({nonsense})); }, "Blocks.png"},
-        {"a folder", [&](QMimeData& data) { data.setUrls(urls({desk.folder / ""})); },
-         "Blocks.png"},
-        {"a file that is gone",
-         [&](QMimeData& data) { data.setUrls(urls({desk.folder / "gone.png"})); }, "Blocks.png"},
-        {"files",
-         [&](QMimeData& data) {
-             data.setUrls(urls({desk.folder / "a.ase", file}));
-         },
-         "other.png"},
-        {"a picture", [](QMimeData& data) { data.setImageData(blocks()); }, "Picture"},
-    };
-    for (const auto& one : cases) {
-        QMimeData data;
-        one.fill(data);
+    const auto droppedOn = [&](const QMimeData& data) {
         test::drop(*pane, {50, 50}, data);
         desk.settle();
-        EXPECT_EQ(state.imageSource.value().name, one.shown) << one.what;
-    }
+        return state.imageSource.value().name;
+    };
+    EXPECT_EQ(droppedOn(text), "Blocks.png");
+    EXPECT_EQ(droppedOn(colour), "Blocks.png");
+    for (const auto& [all, shown] : cases)
+        EXPECT_EQ(droppedOn(*files(all)), shown) << all.front();
+    EXPECT_EQ(droppedOn(picture), "Picture");
     EXPECT_THAT(desk.notices(), testing::SizeIs(3)); // what was no picture has been said
 }
 
@@ -317,26 +319,6 @@ TEST_F(PictureTest, SurvivesItsWindowInTheMiddle) {
     desk.desktop.background.finish();
     desk.settle();
     EXPECT_EQ(pins(), 6U);
-}
-
-class DarkPictureTest : public PictureTest {
-protected:
-    DarkPictureTest() : PictureTest(Appearance::dark) {}
-};
-
-TEST_F(DarkPictureTest, FollowsTheTheme) {
-    load();
-    focusByTab();
-    press("Tab");
-    press("Right");
-    test::grab(window, "picture-dark");
-    desk.settings.prefersHighContrast = true;
-    desk.models.preferences().typeSize = TypeSize::largest;
-    desk.applyStyle();
-    desk.settle();
-    EXPECT_EQ(canvas().items().size(), 6U);
-    EXPECT_GT(canvas().items()[0].rect.width(), 40); // grown with the text
-    test::grab(window, "picture-hc");
 }
 
 TEST(PictureSplitTest, SnapsToItsShares) {

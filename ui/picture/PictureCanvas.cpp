@@ -211,6 +211,13 @@ void PictureCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemSta
 
 void PictureCanvas::paintOverlay(QPainter& painter) {
     if (pictureRect().isEmpty()) return;
+    // Whatever has come to lie on it, the pin that is being worked is seen.
+    const auto worked = focused();
+    if (worked >= 0) {
+        painter.save();
+        paintItem(painter, items()[static_cast<std::size_t>(worked)], {.focused = showsFocus()});
+        painter.restore();
+    }
     const bool aims = pressed_ && pressed_->moves && !pressed_->pin;
     if (aims)
         paintCrosshair(painter, pressed_->at);
