@@ -208,6 +208,18 @@ inline QAccessibleInterface* accessible(QWidget& in, const char* name) {
     return accessible(QAccessible::queryAccessibleInterface(&in), QString::fromUtf8(name));
 }
 
+/// The same among what is to be seen.
+inline QAccessibleInterface* visible(QAccessibleInterface* in, const QString& name) {
+    if (!in || in->state().invisible) return nullptr;
+    if (in->text(QAccessible::Name) == name) return in;
+    for (int i = 0; i < in->childCount(); ++i)
+        if (auto* found = visible(in->child(i), name)) return found;
+    return nullptr;
+}
+inline QAccessibleInterface* visible(QWidget& in, const char* name) {
+    return visible(QAccessible::queryAccessibleInterface(&in), QString::fromUtf8(name));
+}
+
 /// Presses an accessible button or chooses an accessible item.
 inline bool doDefault(QAccessibleInterface* thing) {
     if (!thing || !thing->actionInterface()) return false;

@@ -5,6 +5,8 @@
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
+#include <QAction>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
@@ -15,7 +17,7 @@
 namespace tintra {
 namespace {
 
-constexpr int kSide = 24, kTop = 12, kColumn = 300, kRow = 26;
+constexpr int kSide = 24, kTop = 12, kColumn = 300, kRow = 26, kScrollBar = 12;
 
 /// Keys that a view handles itself where it has the keyboard.
 struct LocalKey {
@@ -90,9 +92,13 @@ std::vector<RowList::Row> rowsFor(const QString& sought) {
 ShortcutsWindow::ShortcutsWindow(Ui& ui) : ui_(ui), field_(new QLineEdit(this)), list_(nullptr) {
     setWindowTitle(worded("Keyboard Shortcuts — Tintra"));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(kSide, kTop, kSide, 0);
+    // The scroll bar stands in the margin at the right.
+    column->setContentsMargins(kSide, kTop, kSide - kScrollBar, 0);
     column->setSpacing(kTop);
-    column->addWidget(field_);
+    auto* line = new QHBoxLayout;
+    line->setContentsMargins(0, 0, kScrollBar, 0);
+    line->addWidget(field_);
+    column->addLayout(line);
     auto* scroll = new QScrollArea(this);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
@@ -111,10 +117,12 @@ ShortcutsWindow::ShortcutsWindow(Ui& ui) : ui_(ui), field_(new QLineEdit(this)),
     column->addWidget(scroll, 1);
     field_->setPlaceholderText(worded("Search commands and keys"));
     field_->setAccessibleName(field_->placeholderText());
-    field_->setClearButtonEnabled(true);
+    auto* mark = field_->addAction(QIcon(), QLineEdit::LeadingPosition);
     connect(field_, &QLineEdit::textChanged, this, [this] { search(); });
-    const auto follow = [this] {
+    const auto follow = [this, mark] {
         field_->setFont(ui_.theme.font(TextStyle::body));
+        mark->setIcon(
+            ui_.theme.icon("search", 16, ui_.theme.color(Token::ink2), devicePixelRatioF()));
         update();
     };
     subscriptions_.add(ui.theme.version(), follow);

@@ -5,10 +5,11 @@
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollArea>
-#include <QScrollBar>
+#include <algorithm>
 
 namespace tintra {
 namespace {
@@ -127,6 +128,13 @@ void PaletteBody::layOut() {
     if (edits && !overlays) room.setRight(editorPlace.left() - 1);
     room = layOutPicture(room);
     auto* shown = main();
+    const auto* focus = QApplication::focusWidget();
+    const bool hadKeyboard =
+        focus &&
+        std::ranges::any_of(std::initializer_list<QWidget*>{swatches_, empty_, bands_.widget},
+                            [&](const QWidget* of) {
+                                return of != shown && (of == focus || of->isAncestorOf(focus));
+                            });
     // An empty palette beside a picture says what will stand there.
     const bool isWaiting = shown == swatches_ && state_.swatches().empty();
     swatches_->setRows(state_.isPictureWindowOpen.value());
@@ -134,6 +142,7 @@ void PaletteBody::layOut() {
     empty_->setVisible(shown == empty_);
     bands_.widget->setVisible(shown == bands_.widget);
     (shown == swatches_ ? scroll_ : shown)->setGeometry(room);
+    if (hadKeyboard) shown->setFocus(Qt::OtherFocusReason);
     editor_->setVisible(edits);
     editor_->setGeometry(editorPlace);
     editor_->raise();

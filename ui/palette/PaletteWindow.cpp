@@ -232,7 +232,8 @@ void PaletteWindow::showContextMenu() {
 
 bool PaletteWindow::isOnCanvas() const {
     auto* focus = QApplication::focusWidget();
-    if (!focus || focus == this || dynamic_cast<Canvas*>(focus)) return true;
+    if (!focus || focus == this || focus == parts_->body->main() || dynamic_cast<Canvas*>(focus))
+        return true;
     const auto* empty = parts_->body->empty();
     return focus == empty || empty->isAncestorOf(focus);
 }

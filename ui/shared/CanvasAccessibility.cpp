@@ -84,9 +84,11 @@ public:
     CanvasInterface(const CanvasInterface&) = delete;
     CanvasInterface& operator=(const CanvasInterface&) = delete;
 
-    int childCount() const override { return static_cast<int>(canvas()->items().size()); }
+    // The items, then the widgets that stand on the canvas, such as the field of a name.
+    int childCount() const override { return itemCount() + QAccessibleWidget::childCount(); }
     QAccessibleInterface* child(int index) const override {
-        if (index < 0 || index >= childCount()) return nullptr;
+        if (index >= itemCount()) return QAccessibleWidget::child(index - itemCount());
+        if (index < 0) return nullptr;
         const auto at = static_cast<std::size_t>(index);
         if (children_.size() <= at) children_.resize(at + 1, 0);
         if (children_[at] == 0)
@@ -95,6 +97,7 @@ public:
         return QAccessible::accessibleInterface(children_[at]);
     }
     QAccessibleInterface* childAt(int x, int y) const override {
+        if (auto* widget = QAccessibleWidget::childAt(x, y)) return widget;
         const auto item = canvas()->itemAt(canvas()->mapFromGlobal(QPoint(x, y)));
         return item < 0 ? nullptr : child(item);
     }
@@ -102,14 +105,16 @@ public:
         for (std::size_t i = 0; i < children_.size(); ++i)
             if (children_[i] && QAccessible::accessibleInterface(children_[i]) == child)
                 return static_cast<int>(i);
-        return -1;
+        const auto widget = QAccessibleWidget::indexOfChild(child);
+        return widget < 0 ? -1 : itemCount() + widget;
     }
     QAccessibleInterface* focusChild() const override {
-        return canvas()->hasFocus() ? child(canvas()->focused()) : nullptr;
+        return canvas()->hasFocus() ? child(canvas()->focused()) : QAccessibleWidget::focusChild();
     }
 
 private:
     Canvas* canvas() const { return static_cast<Canvas*>(object()); }
+    int itemCount() const { return static_cast<int>(canvas()->items().size()); }
 
     /// Registered interfaces of the items, made when first asked for; 0 for none.
     mutable std::vector<QAccessible::Id> children_;
