@@ -19,8 +19,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 
 PaletteCanvas& canvasOf(PaletteWindow& window) {
-    return *dynamic_cast<PaletteCanvas*>(
-        window.findChild<QWidget*>(QStringLiteral("palette canvas")));
+    return *child<PaletteCanvas>(window);
 }
 
 std::vector<double> reds(const AppState& of) {

@@ -1,29 +1,24 @@
 #include "ui/palette/PaletteBody.h"
 
 #include "state/Models.h"
+#include "ui/editor/EditorPanel.h"
+#include "ui/palette/BandsCanvas.h"
+#include "ui/palette/CanvasScroll.h"
+#include "ui/palette/EmptyState.h"
 #include "ui/palette/PaneDivider.h"
+#include "ui/picture/PicturePane.h"
+#include "ui/picture/PictureSplit.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QPainter>
-#include <QScrollArea>
 #include <algorithm>
 
 namespace tintra {
 namespace {
 
-constexpr int kEditor = 312, kMargin = 12;
-
-/// Scrolls with the wheel and the bar alone: the keys are the canvas's and the window's.
-class CanvasScroll final : public QScrollArea {
-public:
-    using QScrollArea::QScrollArea;
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
-};
+constexpr int kMargin = 12;
 
 /// Shows where a drop would go that goes to the window as a whole.
 class DropRing final : public QWidget {
@@ -45,41 +40,34 @@ private:
     const Theme& theme_;
 };
 
-QScrollArea* scrolled(PaletteCanvas*& canvas, Ui& ui, AppState& state, QWidget* parent) {
-    auto* scroll = new CanvasScroll(parent);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    canvas = new PaletteCanvas(ui, state, scroll->viewport());
-    scroll->setWidget(canvas);
-    canvas->reveal = [scroll](const QRect& what) {
-        const auto middle = what.center();
-        scroll->ensureVisible(middle.x(), middle.y(), what.width() / 2 + kMargin,
-                              what.height() / 2 + kMargin);
-    };
-    return scroll;
-}
-
 } // namespace
 
 PaletteBody::PaletteBody(Ui& ui, AppState& state, QWidget* parent)
-    : QWidget(parent), ui_(ui), state_(state),
-      picture_(palettePanels::picturePane(ui, state, this)), divider_(new PaneDivider(ui, this)),
-      editor_(nullptr), ring_(nullptr) {
+    : QWidget(parent), ui_(ui), state_(state), picture_(new PicturePane(ui, state, this)),
+      divider_(new PaneDivider(ui, this)), swatchScroll_(new CanvasScroll(this)),
+      bandScroll_(new CanvasScroll(this)),
+      swatches_(new PaletteCanvas(ui, state, swatchScroll_->viewport())),
+      bands_(new BandsCanvas(ui, state, bandScroll_->viewport())),
+      empty_(new EmptyState(ui, state, this)), editor_(new EditorPanel(ui, state, this)),
+      ring_(new DropRing(ui.theme, this)) {
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    scroll_ = scrolled(swatches_, ui, state, this);
-    empty_ = palettePanels::emptyState(ui, state, this);
-    bands_ = palettePanels::bands(
-        ui, state,
-        [this] {
-            if (targetChanged) targetChanged();
-        },
-        this);
-    editor_ = palettePanels::editor(ui, state, this);
-    ring_ = new DropRing(ui.theme, this);
+    swatchScroll_->hold(*swatches_);
+    bandScroll_->hold(*bands_);
+    swatches_->reveal = [this](const QRect& what) { swatchScroll_->reveal(what); };
+    bands_->reveal = [this](const QRect& what) { bandScroll_->reveal(what); };
+    bands_->targetChanged = [this] {
+        if (targetChanged) targetChanged();
+    };
     subscribe();
     layOut();
+}
+
+QWidget* PaletteBody::picture() const {
+    return picture_;
+}
+
+QWidget* PaletteBody::editor() const {
+    return editor_;
 }
 
 void PaletteBody::subscribe() {
@@ -96,14 +84,14 @@ void PaletteBody::subscribe() {
     });
 }
 
-QWidget* PaletteBody::main() const {
-    if (state_.mode.value() != HarmonyMode::paletteBuilder) return bands_.widget;
+Canvas* PaletteBody::main() const {
+    if (state_.mode.value() != HarmonyMode::paletteBuilder) return bands_;
     if (state_.swatches().empty() && !state_.isPictureWindowOpen.value()) return empty_;
     return swatches_;
 }
 
 int PaletteBody::editorWidth() const {
-    return ui_.theme.scaled(kEditor);
+    return ui_.theme.scaled(EditorPanel::kWidth);
 }
 
 QRect PaletteBody::layOutPicture(QRect room) {
@@ -111,7 +99,8 @@ QRect PaletteBody::layOutPicture(QRect room) {
     picture_->setVisible(open);
     divider_->setVisible(open);
     if (!open) return room;
-    const auto width = static_cast<int>(room.width() * fractionOf(ui_)) - kMargin / 2;
+    const auto share = ui_.models.preferences().pictureShare.value();
+    const auto width = PictureSplit::pictureWidth(share, room.width()) - kMargin / 2;
     picture_->setGeometry(room.left(), room.top(), width, room.height());
     divider_->setGeometry(room.left() + width - PaneDivider::kWidth / 2, room.top(),
                           PaneDivider::kWidth, room.height());
@@ -126,29 +115,30 @@ void PaletteBody::layOut() {
         QRect(std::max(0, width() - editorWidth()), 0, std::min(editorWidth(), width()), height());
     const bool overlays = window()->width() < kOverlayBelow;
     if (edits && !overlays) room.setRight(editorPlace.left() - 1);
-    room = layOutPicture(room);
-    auto* shown = main();
-    const auto* focus = QApplication::focusWidget();
-    const bool hadKeyboard =
-        focus &&
-        std::ranges::any_of(std::initializer_list<QWidget*>{swatches_, empty_, bands_.widget},
-                            [&](const QWidget* of) {
-                                return of != shown && (of == focus || of->isAncestorOf(focus));
-                            });
-    // An empty palette beside a picture says what will stand there.
-    const bool isWaiting = shown == swatches_ && state_.swatches().empty();
-    swatches_->setRows(state_.isPictureWindowOpen.value());
-    scroll_->setVisible(shown == swatches_ && !isWaiting);
-    empty_->setVisible(shown == empty_);
-    bands_.widget->setVisible(shown == bands_.widget);
-    (shown == swatches_ ? scroll_ : shown)->setGeometry(room);
-    if (hadKeyboard) shown->setFocus(Qt::OtherFocusReason);
+    layOutMain(layOutPicture(room));
     editor_->setVisible(edits);
     editor_->setGeometry(editorPlace);
     editor_->raise();
     ring_->setGeometry(rect());
     update();
     if (targetChanged) targetChanged();
+}
+
+void PaletteBody::layOutMain(QRect room) {
+    auto* shown = main();
+    const auto* focus = QApplication::focusWidget();
+    const bool goesOn = focus != shown && dynamic_cast<const Canvas*>(focus) &&
+                        (focus == swatches_ || focus == bands_ || focus == empty_);
+    swatches_->setRows(state_.isPictureWindowOpen.value());
+    // Beside a picture an empty palette only says what will stand there.
+    swatchScroll_->setVisible(shown == swatches_ && !state_.swatches().empty());
+    bandScroll_->setVisible(shown == bands_);
+    empty_->setVisible(shown == empty_);
+    if (shown == empty_)
+        empty_->setGeometry(room);
+    else
+        (shown == bands_ ? bandScroll_ : swatchScroll_)->setGeometry(room);
+    if (goesOn) shown->setFocus(Qt::OtherFocusReason);
 }
 
 void PaletteBody::resizeEvent(QResizeEvent*) {

@@ -3,18 +3,21 @@
 #include "state/AppState.h"
 #include "ui/Ui.h"
 #include "ui/palette/PaletteCanvas.h"
-#include "ui/palette/PalettePanels.h"
+#include "ui/palette/PaletteWindow.h"
 #include "ui/shared/Subscriptions.h"
 
 #include <QWidget>
 #include <functional>
 #include <optional>
 
-class QScrollArea;
-
 namespace tintra {
 
+class BandsCanvas;
+class CanvasScroll;
+class EditorPanel;
+class EmptyState;
 class PaneDivider;
+class PicturePane;
 
 /// What lies between the tools and the facts of a palette window: the picture, the swatches or the
 /// bands or the empty state, and the colour editor.
@@ -23,13 +26,12 @@ public:
     PaletteBody(Ui& ui, AppState& state, QWidget* parent);
 
     PaletteCanvas& swatches() const { return *swatches_; }
-    /// The colour of a harmony that has the focus.
-    std::optional<PaletteWindow::Target> bandTarget() const { return bands_.target(); }
-    QWidget* empty() const { return empty_; }
-    QWidget* picture() const { return picture_; }
-    QWidget* editor() const { return editor_; }
+    BandsCanvas& bands() const { return *bands_; }
+    EmptyState& empty() const { return *empty_; }
+    QWidget* picture() const;
+    QWidget* editor() const;
     /// What is shown of swatches, bands and the empty state.
-    QWidget* main() const;
+    Canvas* main() const;
     void setDisplay(PaletteDisplay display) { swatches_->setDisplay(display); }
 
     /// Is told when what actions act on may have changed.
@@ -46,18 +48,19 @@ protected:
 private:
     void subscribe();
     void layOut();
+    void layOutMain(QRect room);
     /// Places the picture and the divider and answers what they leave.
     QRect layOutPicture(QRect room);
 
     Ui& ui_;
     AppState& state_;
-    QScrollArea* scroll_;
-    PaletteCanvas* swatches_;
-    QWidget* empty_;
-    palettePanels::Bands bands_;
-    QWidget* picture_;
+    PicturePane* picture_;
     PaneDivider* divider_;
-    QWidget* editor_;
+    CanvasScroll *swatchScroll_, *bandScroll_;
+    PaletteCanvas* swatches_;
+    BandsCanvas* bands_;
+    EmptyState* empty_;
+    EditorPanel* editor_;
     QWidget* ring_; ///< round all of it while something is dragged over it
     Subscriptions subscriptions_;
 };

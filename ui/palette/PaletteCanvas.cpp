@@ -28,7 +28,6 @@ constexpr std::array<std::string_view, 5> kButtons{"copy", "editor", "bench", "c
 
 PaletteCanvas::PaletteCanvas(Ui& ui, AppState& state, QWidget* parent)
     : Canvas(ui.theme, parent), ui_(ui), state_(state) {
-    setObjectName(QStringLiteral("palette canvas"));
     setAccessibleName(worded("Palette"));
     setAcceptDrops(true);
     subscribe();

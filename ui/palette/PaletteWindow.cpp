@@ -3,6 +3,8 @@
 #include "platform/Services.h"
 #include "state/Models.h"
 #include "ui/actions/Shortcuts.h"
+#include "ui/palette/BandsCanvas.h"
+#include "ui/palette/EmptyState.h"
 #include "ui/palette/PaletteWindowParts.h"
 #include "ui/program/Windows.h"
 #include "ui/shared/Text.h"
@@ -78,9 +80,9 @@ void PaletteWindow::assemble() {
     parts.menuBar->hide();
     fillMenuBar(*parts.menuBar, contextNow);
     parts.toolBar = new PaletteToolBar(ui_, state_, contextNow, parts.unfolded);
-    parts.seedRow = palettePanels::seedRow(ui_, state_, parts.unfolded);
+    parts.seedRow = new SeedRow(ui_, state_, parts.unfolded);
     parts.body = new PaletteBody(ui_, state_, parts.unfolded);
-    parts.pictureBar = palettePanels::pictureBar(ui_, state_, parts.unfolded);
+    parts.pictureBar = new PictureBar(ui_, state_, parts.unfolded);
     parts.foot = new PaletteFoot(ui_, state_, contextNow, parts.unfolded);
     for (auto* line : std::initializer_list<QWidget*>{parts.menuBar, parts.toolBar, parts.seedRow})
         column->addWidget(line);
@@ -88,15 +90,20 @@ void PaletteWindow::assemble() {
     column->addWidget(parts.pictureBar);
     column->addWidget(parts.foot);
     parts.notices = new NoticeBar(ui_.theme, ui_.services.mainLoop, parts.body);
-    parts.openPasteSheet = palettePanels::pasteSheet(ui_, state_, this);
-    parts.body->targetChanged = [this] { parts_->foot->sync(); };
-    auto& swatches = parts.body->swatches();
-    swatches.contextMenu = [this](QPoint at, bool onSwatch) {
+    connectBody();
+}
+
+void PaletteWindow::connectBody() {
+    auto& body = *parts_->body;
+    body.targetChanged = [this] { parts_->foot->sync(); };
+    body.empty().typeOrPaste = [this] { showPasteSheet(); };
+    body.bands().fillMenu = [this](QMenu& menu) { fillSwatchMenu(menu, context()); };
+    body.swatches().contextMenu = [this](QPoint at, bool onSwatch) {
         popUp(this, at, [this, onSwatch](QMenu& menu) {
             (onSwatch ? fillSwatchMenu : fillCanvasMenu)(menu, context());
         });
     };
-    swatches.moving = [this](auto move) { parts_->foot->setMove(move); };
+    body.swatches().moving = [this](auto move) { parts_->foot->setMove(move); };
 }
 
 void PaletteWindow::subscribe() {
@@ -108,10 +115,13 @@ void PaletteWindow::subscribe() {
     all.add(state_.paletteIsDirty(), [this] { syncTitle(); });
     all.add(state_.mode, [this] { syncPanels(); });
     all.add(state_.isPictureWindowOpen, [this] { syncPanels(); });
+    all.add(state_.imageSource, [this] { syncPanels(); });
+    all.add(state_.compactOrientation, [this] { resizeStrip(); });
     all.add(state_.isCollapsed, [this] { syncCollapsed(); });
     all.add(state_.editorBuffer, [this] { growForEditor(); });
     all.add(state_.windowSize, [this] { takeModeSize(); });
     auto& preferences = ui_.models.preferences();
+    all.add(preferences.compactOrientation, [this] { resizeStrip(); });
     all.add(preferences.alwaysOnTop, [this] { syncOnTop(); });
     all.add(preferences.paletteViews, [this] { parts_->body->setDisplay(display()); });
     all.add(ui_.theme.version(), [this] { syncPanels(); });
@@ -132,7 +142,7 @@ void PaletteWindow::syncPanels() {
     parts.toolBar->setVisible(!narrow);
     parts.foot->setCompact(narrow);
     parts.seedRow->setVisible(state_.mode.value() != HarmonyMode::paletteBuilder);
-    parts.pictureBar->setVisible(state_.isPictureWindowOpen);
+    parts.pictureBar->setVisible(state_.isPictureWindowOpen && state_.imageSource.value().picture);
     parts.body->setDisplay(display());
 }
 
@@ -149,7 +159,7 @@ NoticeBar& PaletteWindow::notices() const {
 }
 
 std::optional<PaletteWindow::Target> PaletteWindow::target() const {
-    if (state_.mode.value() != HarmonyMode::paletteBuilder) return parts_->body->bandTarget();
+    if (state_.mode.value() != HarmonyMode::paletteBuilder) return parts_->body->bands().target();
     const auto at = state_.selectedSwatch.value();
     if (!at || *at >= state_.swatches().size()) return std::nullopt;
     return Target{parts_->body->swatches().colorAt(*at), state_.swatches()[*at].name, *at};
@@ -168,7 +178,8 @@ void PaletteWindow::setDisplay(PaletteDisplay display) {
 }
 
 void PaletteWindow::showPasteSheet() {
-    parts_->openPasteSheet();
+    if (!parts_->pasteSheet) parts_->pasteSheet = new PasteSheet(ui_, state_, this);
+    parts_->pasteSheet->present();
 }
 
 void PaletteWindow::showExport() {
@@ -232,10 +243,7 @@ void PaletteWindow::showContextMenu() {
 
 bool PaletteWindow::isOnCanvas() const {
     auto* focus = QApplication::focusWidget();
-    if (!focus || focus == this || focus == parts_->body->main() || dynamic_cast<Canvas*>(focus))
-        return true;
-    const auto* empty = parts_->body->empty();
-    return focus == empty || empty->isAncestorOf(focus);
+    return !focus || focus == this || dynamic_cast<Canvas*>(focus);
 }
 
 void PaletteWindow::closeNow() {

@@ -70,6 +70,7 @@ private:
 
     ActionContext context();
     void assemble();
+    void connectBody();
     void subscribe();
     void syncTitle();
     void syncPanels();
@@ -83,6 +84,7 @@ private:
     void takeModeSize();
     void growForEditor();
     void keepFrame();
+    void resizeStrip();
 
     Ui& ui_;
     AppState& state_;

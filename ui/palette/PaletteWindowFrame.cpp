@@ -100,23 +100,27 @@ void PaletteWindow::syncCollapsed() {
     const bool folds = state_.isCollapsed;
     if (folds == parts.isFolded) return;
     parts.isPlacing = true;
-    if (folds && !parts.strip) parts.strip = palettePanels::collapsedStrip(ui_, state_, this);
+    if (folds && !parts.strip) parts.strip = new CollapsedStrip(ui_, state_, this);
     const bool shows = isVisible();
     parts.isFolded = folds;
     parts.unfolded->setVisible(!folds);
     parts.strip->setVisible(folds);
     setWindowFlag(Qt::FramelessWindowHint, folds);
     if (folds) {
-        setMinimumSize(1, 1);
-        const auto size = parts.strip->sizeHint().expandedTo({44, 44});
-        parts.strip->setGeometry(QRect({}, size));
-        resize(size);
+        resizeStrip();
     } else {
         setMinimumSize(240, 180);
         restoreFrame();
     }
     if (shows) show();
     parts.isPlacing = false;
+}
+
+void PaletteWindow::resizeStrip() {
+    if (!parts_->isFolded) return;
+    setMinimumSize(parts_->strip->minimumSizeHint());
+    resize(parts_->strip->sizeHint());
+    parts_->strip->setGeometry(rect());
 }
 
 void PaletteWindow::resizeEvent(QResizeEvent* event) {

@@ -1,14 +1,17 @@
 #pragma once
 
+#include "ui/palette/CollapsedStrip.h"
 #include "ui/palette/PaletteBody.h"
 #include "ui/palette/PaletteFoot.h"
 #include "ui/palette/PaletteToolBar.h"
 #include "ui/palette/PaletteWindow.h"
+#include "ui/palette/SeedRow.h"
+#include "ui/paste/PasteSheet.h"
+#include "ui/picture/PictureBar.h"
 #include "ui/shared/NoticeBar.h"
 #include "ui/shared/Subscriptions.h"
 
 #include <QMenuBar>
-#include <functional>
 
 namespace tintra {
 
@@ -17,13 +20,13 @@ struct PaletteWindow::Parts {
     QWidget* unfolded = nullptr; ///< all but the strip
     QMenuBar* menuBar = nullptr;
     PaletteToolBar* toolBar = nullptr;
-    QWidget* seedRow = nullptr;
+    SeedRow* seedRow = nullptr;
     PaletteBody* body = nullptr;
-    QWidget* pictureBar = nullptr;
+    PictureBar* pictureBar = nullptr;
     PaletteFoot* foot = nullptr;
     NoticeBar* notices = nullptr;
-    QWidget* strip = nullptr; ///< made when the window is first collapsed
-    std::function<void()> openPasteSheet;
+    PasteSheet* pasteSheet = nullptr; ///< made when it is first opened
+    CollapsedStrip* strip = nullptr;  ///< made when the window is first collapsed
 
     bool pinsMenuBar = false;
     bool altAlone = false; ///< Alt is held and nothing else was pressed

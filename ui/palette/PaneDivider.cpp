@@ -1,6 +1,7 @@
 #include "ui/palette/PaneDivider.h"
 
 #include "state/Models.h"
+#include "ui/picture/PictureSplit.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
@@ -9,29 +10,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
-#include <cmath>
 
 namespace tintra {
-namespace {
-
-double fraction(PictureShare share) {
-    switch (share) {
-    case PictureShare::third:
-        return 1.0 / 3;
-    case PictureShare::half:
-        return 1.0 / 2;
-    case PictureShare::twoThirds:
-        return 2.0 / 3;
-    }
-    return 1.0 / 2;
-}
-
-} // namespace
-
-double fractionOf(const Ui& ui) {
-    return fraction(ui.models.preferences().pictureShare.value());
-}
-
 PaneDivider::PaneDivider(Ui& ui, QWidget* parent) : QWidget(parent), ui_(ui) {
     setCursor(Qt::SplitHCursor);
     setFocusPolicy(Qt::TabFocus);
@@ -46,11 +26,8 @@ void PaneDivider::paintEvent(QPaintEvent*) {
 }
 
 void PaneDivider::mouseMoveEvent(QMouseEvent* event) {
-    const auto whole = static_cast<double>(parentWidget()->width());
-    const auto at = mapToParent(event->position()).x() / whole;
-    const auto shares = allChoices<PictureShare>();
-    ui_.models.preferences().pictureShare = *std::ranges::min_element(
-        shares, {}, [at](PictureShare share) { return std::abs(fraction(share) - at); });
+    const auto at = mapToParent(event->pos()).x();
+    ui_.models.preferences().pictureShare = PictureSplit::nearest(at, parentWidget()->width());
 }
 
 void PaneDivider::step(int by) {

@@ -25,7 +25,4 @@ private:
     Ui& ui_;
 };
 
-/// The share as a fraction.
-double fractionOf(const Ui& ui);
-
 } // namespace tintra
