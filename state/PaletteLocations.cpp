@@ -120,10 +120,9 @@ void PaletteLocations::rename(const Uuid& id) {
          found->nickname,
          std::string(SaveTexts::kRename),
          {},
-         {},
          place_},
-        whileAlive(alive_, [this, id](const std::optional<NameAnswer>& answer) {
-            const auto nickname = answer ? swatchNameFrom(answer->name) : std::nullopt;
+        whileAlive(alive_, [this, id](const std::optional<NameAnswer>& given) {
+            const auto nickname = given ? swatchNameFrom(given->name) : std::nullopt;
             if (nickname) change(id, [&](PaletteLocation& named) { named.nickname = *nickname; });
         }));
 }
@@ -137,10 +136,9 @@ void PaletteLocations::tag(const Uuid& id) {
          found->tag.value_or(std::string()),
          "Tag",
          {},
-         {},
          place_},
-        whileAlive(alive_, [this, id](const std::optional<NameAnswer>& answer) {
-            const auto text = answer ? swatchNameFrom(answer->name) : std::nullopt;
+        whileAlive(alive_, [this, id](const std::optional<NameAnswer>& given) {
+            const auto text = given ? swatchNameFrom(given->name) : std::nullopt;
             if (text) change(id, [&](PaletteLocation& tagged) { tagged.tag = *text; });
         }));
 }
