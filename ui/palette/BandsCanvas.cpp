@@ -47,7 +47,6 @@ void BandsCanvas::subscribe() {
     const auto again = [this] {
         setWhole();
         relayout();
-        if (targetChanged) targetChanged();
     };
     subscriptions_.add(state_.seeds(), again);
     subscriptions_.add(state_.steps, again);

@@ -35,8 +35,6 @@ public:
     /// The item of a colour; -1 for none.
     int itemOf(Spot spot) const;
 
-    /// Is told when another colour has the focus.
-    std::function<void()> targetChanged;
     /// Adds the rows about the colour that has the focus to its context menu.
     std::function<void(QMenu&)> fillMenu;
     /// Is told what to bring into view.

@@ -99,9 +99,7 @@ void BandsCanvas::press(Spot spot, int button) {
 }
 
 void BandsCanvas::focusMoved(int item) {
-    if (item < 0) return;
-    if (reveal) reveal(items()[static_cast<std::size_t>(item)].rect.toAlignedRect());
-    if (targetChanged) targetChanged();
+    if (item >= 0 && reveal) reveal(items()[static_cast<std::size_t>(item)].rect.toAlignedRect());
 }
 
 // The pointer

@@ -55,7 +55,7 @@ PaletteBody::PaletteBody(Ui& ui, AppState& state, QWidget* parent)
     bandScroll_->hold(*bands_);
     swatches_->reveal = [this](const QRect& what) { swatchScroll_->reveal(what); };
     bands_->reveal = [this](const QRect& what) { bandScroll_->reveal(what); };
-    bands_->targetChanged = [this] {
+    bands_->changed = [this] {
         if (targetChanged) targetChanged();
     };
     subscribe();
