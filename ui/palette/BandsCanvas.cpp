@@ -12,12 +12,13 @@
 #include <QPainter>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace tintra {
 namespace {
 
 constexpr std::size_t kStride = 64; ///< more than the longest band holds
-constexpr int kLabelWidth = 60, kButton = 28;
+constexpr int kButton = 28;
 constexpr double kFlash = 0.12; ///< seconds
 
 constexpr std::array<std::string_view, 4> kButtons{"copy", "add", "bench", "contrast"};
@@ -70,8 +71,13 @@ BandPlaces BandsCanvas::places(QSizeF size) const {
     std::vector<std::size_t> counts;
     for (const auto& band : state_.bands())
         counts.push_back(band.size());
+    qreal widest = 0;
+    for (std::size_t band = 0; band < counts.size(); ++band)
+        widest = std::max(widest, figuresWidth(theme().font(TextStyle::control), labelOf(band)));
     return bandPlaces(counts, size,
-                      {.label = theme().scaled(kLabelWidth), .more = theme().scaled(kButton)});
+                      {.label = static_cast<int>(std::ceil(widest)),
+                       .labelLine = theme().lineHeight(TextStyle::control),
+                       .more = theme().scaled(kButton)});
 }
 
 void BandsCanvas::setWhole() {
@@ -105,11 +111,7 @@ QString BandsCanvas::labelOf(std::size_t band) const {
 QString BandsCanvas::markOf(Spot spot) const {
     const auto& bands = state_.bands();
     const auto last = bands[spot.band].size() - 1;
-    // Where labels have no room beside the bands, they stand in the first colour of each.
-    if (bands.size() > 1) {
-        const bool inside = stand_.bands[spot.band].label.isEmpty() && spot.column == 0;
-        return inside ? labelOf(spot.band) : QString();
-    }
+    if (bands.size() > 1) return {};
     if (state_.mode.value() == HarmonyMode::ramp) {
         if (spot.column == 0) return worded("First");
         return spot.column == last ? worded("Last") : QString();
@@ -282,7 +284,9 @@ void BandsCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemState
     case label:
         painter.setFont(theme().font(TextStyle::control));
         painter.setPen(theme().color(Token::ink));
-        drawFigures(painter, item.rect, Qt::AlignRight | Qt::AlignVCenter, item.name);
+        drawFigures(painter, item.rect,
+                    Qt::AlignVCenter | (item.rect.left() > 0 ? Qt::AlignHCenter : Qt::AlignRight),
+                    item.name);
         break;
     case cell:
         if (spot.column < state_.bands()[spot.band].size()) paintCell(painter, item, state);

@@ -172,7 +172,8 @@ void BandsCanvas::keyPressEvent(QKeyEvent* event) {
 
 void BandsCanvas::contextMenuEvent(QContextMenuEvent* event) {
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    const auto item = byKey ? focused() : itemAt(event->pos());
+    const auto byFocus = focused() < 0 ? itemOf({0, 0}) : focused();
+    const auto item = byKey ? byFocus : itemAt(event->pos());
     if (item < 0) return;
     const auto& one = items()[static_cast<std::size_t>(item)];
     openMenu(item, byKey ? mapToGlobal(one.rect.center().toPoint()) : event->globalPos());

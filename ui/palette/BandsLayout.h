@@ -11,7 +11,8 @@ namespace tintra {
 
 /// Where one band of a harmony stands.
 struct BandPlace {
-    QRectF label;              ///< at the left; empty where there is no room or no need
+    /// At the left, above the button in narrow windows; empty for a band that stands alone.
+    QRectF label;
     QRectF more;               ///< the button at the right; empty for a band that stands alone
     std::vector<QRectF> cells; ///< in order
     std::vector<QRectF> lines; ///< that share a hairline and round corners; mostly one
@@ -25,7 +26,7 @@ struct BandPlaces {
 
 /// What the parts beside a band take at the text size chosen, px.
 struct BandMeasures {
-    int label = 60, more = 28;
+    int label = 32, labelLine = 20, more = 28;
 };
 
 /// Rows of equal height, each of equal cells. Cells narrower than 24 px go on in a further line of

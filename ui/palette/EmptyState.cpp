@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QTextLayout>
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <utility>
 
 namespace tintra {
@@ -19,6 +21,9 @@ namespace {
 constexpr int kQuoteWidth = 440, kActionWidth = 324, kAction = 36, kLowestAction = 24;
 constexpr int kMargin = 12, kAuthorGap = 10, kActionsGap = 34, kHintGap = 12;
 constexpr int kPadding = 14, kIcon = 20, kWordsAt = 46;
+
+/// The quotation's size and line height, px, and what it shrinks to where there is little room.
+constexpr std::array<std::pair<int, int>, 3> kQuoteSizes{{{30, 40}, {22, 30}, {16, 22}}};
 
 /// What to begin with.
 struct Beginning {
@@ -67,8 +72,9 @@ EmptyState::EmptyState(Ui& ui, AppState& state, QWidget* parent)
 
 EmptyState::Setting EmptyState::setting(qreal width, qreal height) const {
     const auto text = QChar(0x201C) + fromUtf8(state_.quote().text) + QChar(0x201D);
-    for (const auto style : {TextStyle::quotation, TextStyle::figure, TextStyle::body}) {
-        Setting setting{theme().font(style), theme().lineHeight(style), {}};
+    for (const auto& [size, line] : kQuoteSizes) {
+        Setting setting{theme().font(TextStyle::quotation), theme().scaled(line), {}};
+        setting.font.setPixelSize(theme().scaled(size));
         const auto most = std::min<qreal>(width, theme().scaled(kQuoteWidth));
         setting.lines = evenLinesOf(text, setting.font, most);
         if (setting.height() <= height) return setting;
@@ -91,7 +97,10 @@ std::vector<CanvasItem> EmptyState::layoutItems(QSizeF size) const {
     const auto width = std::max<qreal>(1, size.width() - 2 * kMargin);
     const auto count = static_cast<int>(kBeginnings.size());
     // The hint and the quotation get what the actions leave.
-    const auto hintHeight = theme().lineHeight(TextStyle::body);
+    const auto hintText =
+        worded("Drop colours, palette files or a picture anywhere in this window");
+    const auto hintLines = linesOf(hintText, theme().font(TextStyle::body), width).size();
+    const auto hintHeight = theme().lineHeight(TextStyle::body) * static_cast<int>(hintLines);
     const auto row = std::clamp(static_cast<int>(size.height() - 2 * kMargin) / count,
                                 theme().scaled(kLowestAction), theme().scaled(kAction));
     const auto actions = row * count;
@@ -121,9 +130,7 @@ std::vector<CanvasItem> EmptyState::layoutItems(QSizeF size) const {
     const auto left = std::round((size.width() - actionWidth) / 2);
     for (std::size_t i = 0; i < kBeginnings.size(); ++i, y += row)
         items.push_back(actionItem(i, QRectF(left, y, actionWidth, row)));
-    if (hasHint)
-        text(hint, QRectF(kMargin, size.height() - foot, width, hintHeight),
-             worded("Drop colours, palette files or a picture anywhere in this window"));
+    if (hasHint) text(hint, QRectF(kMargin, size.height() - foot, width, hintHeight), hintText);
     return items;
 }
 
@@ -171,12 +178,9 @@ void EmptyState::paintItem(QPainter& painter, const CanvasItem& item, ItemState 
         paintAction(painter, item, state);
         break;
     default: {
-        const auto font = theme().font(TextStyle::body);
-        painter.setFont(font);
-        painter.setPen(theme().color(item.kind == hint ? Token::ink3 : Token::ink2));
-        painter.drawText(
-            item.rect, Qt::AlignCenter,
-            QFontMetricsF(font).elidedText(item.name, Qt::ElideRight, item.rect.width()));
+        painter.setFont(theme().font(TextStyle::body));
+        painter.setPen(theme().color(Token::ink3));
+        painter.drawText(item.rect, Qt::AlignCenter | Qt::TextWordWrap, item.name);
     }
     }
 }

@@ -7,20 +7,24 @@
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
+#include <QEvent>
 #include <QFontMetrics>
 #include <QMenu>
 #include <QPainter>
 #include <QPushButton>
 #include <algorithm>
 #include <array>
+#include <initializer_list>
+#include <limits>
 #include <numeric>
+#include <utility>
 
 namespace tintra {
 namespace {
 
 constexpr int kHeight = 56, kLine = 40, kFoot = 8; ///< a line, and what is left below the last
 constexpr int kSide = 12, kGap = 24, kInner = 12;
-constexpr int kLabelGap = 8;
+constexpr int kLabelGap = 8, kLeastChoice = 84;
 
 bool hasSteps(HarmonyMode mode) {
     return mode == HarmonyMode::ramp || mode == HarmonyMode::analogous ||
@@ -102,13 +106,6 @@ void SeedRow::sync() {
     shades_->setValue(state_.shadesPerAnchor);
     space_->setText(shown(title(state_.blendSpace.value())));
     space_->setAccessibleName(worded("Blend space: %1").arg(space_->text()));
-    const auto mode = state_.mode.value();
-    // A scale of one colour has no other end.
-    const bool hasLast = mode != HarmonyMode::monochromatic;
-    last_->setVisible(hasLast);
-    swap_->setVisible(hasLast);
-    steps_->setVisible(hasSteps(mode));
-    shades_->setVisible(hasShades(mode));
     layOut();
 }
 
@@ -118,12 +115,8 @@ SeedRow::Group SeedRow::seeds() const {
     return {{first_, 0}, {swap_, kInner - 4}, {last_, kInner - 4}};
 }
 
-SeedRow::Group SeedRow::counts() const {
-    return {{steps_, kGap, worded("Steps")}, {shades_, kGap, worded("Shades")}};
-}
-
 SeedRow::Group SeedRow::makings() const {
-    return {{space_, kGap}, {add_, kGap}};
+    return {{space_, 0}, {add_, kGap}};
 }
 
 int SeedRow::labelWidth(const Part& part) const {
@@ -141,14 +134,13 @@ int SeedRow::widthOf(const Group& group) const {
                            [this](int sum, const Part& part) { return sum + widthOf(part); });
 }
 
-void SeedRow::place(const Group& group, int left, int line) {
+int SeedRow::place(const Group& group, int left, int line) {
     const auto lineHeight = ui_.theme.scaled(kLine);
     const auto top = ui_.theme.scaled(kFoot) / 2 + line * lineHeight;
     for (const auto& part : group) {
         if (part.widget->isHidden()) continue;
         left += part.before;
-        const auto label = labelWidth(part);
-        if (label > 0) {
+        if (const auto label = labelWidth(part); label > 0) {
             labels_.push_back({QRect(left, top, label, lineHeight), part.label});
             left += label;
         }
@@ -158,39 +150,76 @@ void SeedRow::place(const Group& group, int left, int line) {
                                  size.height());
         left += width;
     }
+    return left;
+}
+
+int SeedRow::placeMakings(int left, int line) {
+    const auto end = width() - kSide;
+    const auto whole = widthOf(makings());
+    if (left + kGap + whole <= end) {
+        place(makings(), end - whole, line);
+        return line;
+    }
+    ++line;
+    // The button keeps its words; the choice beside it gives way, as far as it can be read.
+    const auto button = add_->sizeHint().width();
+    const auto choice = end - kSide - kInner - button;
+    if (choice < ui_.theme.scaled(kLeastChoice)) {
+        place({{space_, 0}}, kSide, line++);
+        place({{add_, 0}}, kSide, line);
+        return line;
+    }
+    place(makings(), kSide, line);
+    space_->resize(std::min(choice, space_->sizeHint().width()), space_->height());
+    const auto behind = space_->geometry().right() + 1;
+    add_->setGeometry(std::min(behind + kGap, end - button), add_->y(), button, add_->height());
+    return line;
+}
+
+void SeedRow::showWanted() {
+    const auto mode = state_.mode.value();
+    // A scale of one colour has no other end.
+    const bool hasLast = mode != HarmonyMode::monochromatic;
+    last_->setVisible(hasLast);
+    swap_->setVisible(hasLast);
+    steps_->setVisible(hasSteps(mode));
+    shades_->setVisible(hasShades(mode));
+    space_->show();
+    add_->show();
+}
+
+void SeedRow::hideBelow(int height) {
+    for (auto* part : std::initializer_list<QWidget*>{steps_, shades_, space_, add_})
+        if (part->geometry().bottom() >= height) part->hide();
+    std::erase_if(labels_, [height](const Label& label) { return label.in.bottom() >= height; });
+}
+
+int SeedRow::mostLines() const {
+    if (isWindow()) return std::numeric_limits<int>::max();
+    return std::max(1, window()->height() * 2 / 5 / ui_.theme.scaled(kLine));
 }
 
 void SeedRow::layOut() {
     if (std::exchange(layingOut_, true)) return;
+    showWanted();
     labels_.clear();
-    const auto room = width() - 2 * kSide;
+    const auto end = width() - kSide;
+    const std::array counts{Group{{steps_, kGap, worded("Steps")}},
+                            Group{{shades_, kGap, worded("Shades")}}};
     for (const bool compact : {false, true}) {
         first_->setCompact(compact);
         last_->setCompact(compact);
-        if (widthOf(seeds()) + widthOf(counts()) <= room) break;
+        if (kSide + widthOf(seeds()) + widthOf(counts[0]) + widthOf(counts[1]) <= end) break;
     }
-    const auto seedsAndCounts = widthOf(seeds()) + widthOf(counts());
     int line = 0;
-    place(seeds(), kSide, line);
-    if (seedsAndCounts <= room) {
-        place(counts(), kSide + widthOf(seeds()), line);
-    } else {
-        place(counts(), kSide - kGap, ++line);
+    auto left = place(seeds(), kSide, line);
+    for (const auto& count : counts) {
+        const bool fits = left + widthOf(count) <= end;
+        left = place(count, fits ? left : kSide - kGap, fits ? line : ++line);
     }
-    const auto taken = line == 0 ? seedsAndCounts : widthOf(counts()) - kGap;
-    if (taken + widthOf(makings()) <= room) {
-        place(makings(), width() - kSide - widthOf(makings()), line);
-    } else {
-        // The button keeps its words; the choice beside it gives way.
-        const auto fits = widthOf(makings()) - kGap <= room;
-        if (fits) {
-            place(makings(), kSide - kGap, ++line);
-        } else {
-            place({{space_, 0}}, kSide, ++line);
-            place({{add_, 0}}, kSide, ++line);
-        }
-    }
+    line = std::min(placeMakings(left, line), mostLines() - 1);
     const auto height = ui_.theme.scaled(kHeight) + line * ui_.theme.scaled(kLine);
+    hideBelow(height);
     if (height != this->height() || minimumHeight() != height) setFixedHeight(height);
     update();
     layingOut_ = false;
@@ -206,6 +235,17 @@ QSize SeedRow::minimumSizeHint() const {
 
 void SeedRow::resizeEvent(QResizeEvent*) {
     layOut();
+}
+
+void SeedRow::showEvent(QShowEvent*) {
+    window()->installEventFilter(this);
+    layOut();
+}
+
+bool SeedRow::eventFilter(QObject* watched, QEvent* event) {
+    // The height of the window, which no event of its own tells a row of.
+    if (watched == window() && event->type() == QEvent::Resize && isVisible()) layOut();
+    return QWidget::eventFilter(watched, event);
 }
 
 void SeedRow::paintEvent(QPaintEvent*) {

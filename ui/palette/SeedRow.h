@@ -17,7 +17,7 @@ class Stepper;
 class ToolButton;
 
 /// The seeds of a harmony and what it is made with: one line of 56 px, more lines in a narrow
-/// window.
+/// window. In a window that is low as well the seeds stay and the rest gives way.
 class SeedRow final : public QWidget {
 public:
     SeedRow(Ui& ui, AppState& state, QWidget* parent);
@@ -29,12 +29,14 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     /// A run of parts that stays together on a line.
     struct Part {
         QWidget* widget;
-        int before = 0;     ///< px from what stands before it on the line
+        int before = 0;     ///< px from what stands before it in its group
         QString label = {}; ///< painted before it
     };
     using Group = std::vector<Part>;
@@ -43,13 +45,19 @@ private:
     void subscribe();
     void sync();
     Group seeds() const;
-    Group counts() const;
     Group makings() const;
+    int labelWidth(const Part& part) const;
     int widthOf(const Part& part) const;
     int widthOf(const Group& group) const;
-    int labelWidth(const Part& part) const;
     void layOut();
-    void place(const Group& group, int left, int line);
+    void showWanted();
+    void hideBelow(int height);
+    /// Lines that leave the colours the greater part of the window.
+    int mostLines() const;
+    /// Places a group and answers where it ends; what stands at the end of a line gives way.
+    int place(const Group& group, int left, int line);
+    /// The choice and the button at the end, behind `left` where they fit; answers the last line.
+    int placeMakings(int left, int line);
 
     Ui& ui_;
     AppState& state_;
