@@ -25,8 +25,9 @@ constexpr qsizetype kLongestTag = 24;
 /// A path as people write it: their own folder is "~".
 QString shortPath(const std::filesystem::path& path) {
     const auto home = homeFolder().string();
-    auto text = path.string();
-    if (!home.empty() && text.starts_with(home + "/")) text.replace(0, home.size(), "~");
+    const auto text = path.string();
+    if (!home.empty() && text.starts_with(home + "/"))
+        return QLatin1Char('~') + oneLine(std::string_view(text).substr(home.size()), 1000);
     return oneLine(text, 1000);
 }
 

@@ -46,6 +46,8 @@ SettingsWindow::SettingsWindow(Ui& ui)
     measure();
     takeRequest();
     showTab();
+    // No control has the keyboard before somebody turns to one with Tab.
+    setFocus();
 }
 
 SettingsWindow::~SettingsWindow() = default;

@@ -50,9 +50,16 @@ public:
     Segmented(Theme& theme, std::vector<Choice> choices, QWidget* parent = nullptr);
     ~Segmented() override;
 
+    int count() const { return static_cast<int>(choices_.size()); }
+    const QString& textOf(int choice) const {
+        return choices_[static_cast<std::size_t>(choice)].text;
+    }
+    QRect rectOf(int choice) const;
     int current() const { return current_; }
     /// Does not call `chosen`.
     void setCurrent(int choice);
+    /// As the user does; nothing for one that there is not, or that is chosen.
+    void choose(int choice);
     /// Is told when the user chooses.
     std::function<void(int)> chosen;
     QSize sizeHint() const override;
@@ -66,9 +73,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    QRect rectOf(int choice) const;
     int widthOf(int choice) const;
-    void choose(int choice);
 
     Theme& theme_;
     std::vector<Choice> choices_;

@@ -1,5 +1,6 @@
 #include "ui/shared/Controls.h"
 #include "ui/shared/Theme.h"
+#include "ui/shared/controls/SegmentedAccessibility.h"
 
 #include <QAccessible>
 #include <QFontMetrics>
@@ -16,6 +17,7 @@ constexpr int kHeight = 28, kInset = 2, kSide = 10, kIcon = 20, kIconWidth = 32;
 
 Segmented::Segmented(Theme& theme, std::vector<Choice> choices, QWidget* parent)
     : QWidget(parent), theme_(theme), choices_(std::move(choices)) {
+    installSegmentedAccessibility();
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
