@@ -124,7 +124,7 @@ PaletteWindow* Application::palette(const Uuid& id) const {
 
 std::vector<PaletteWindow*> Application::palettes() const {
     std::vector<PaletteWindow*> windows;
-    for (const auto& id : models_.workspaces().order().value())
+    for (const auto& id : ui_.models.workspaces().order().value())
         if (auto* window = palette(id)) windows.push_back(window);
     return windows;
 }

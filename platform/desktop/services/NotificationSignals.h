@@ -10,7 +10,7 @@ namespace tintra {
 class NotificationSignals final : public QObject {
     Q_OBJECT
 
-signals:
+Q_SIGNALS:
     void actionInvoked(uint id, const QString& key);
 };
 
