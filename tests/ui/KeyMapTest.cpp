@@ -210,21 +210,6 @@ TEST(Actions, AreEachInTheirMenuOnceWithTitleAndKey) {
               QStringLiteral("Clear Seeds"));
 }
 
-TEST(Actions, SendToAnApplicationThatIsThereAndWanted) {
-    Shown shown;
-    shown.desk.desktop.scripting.installed = {"com.adobe.Photoshop"};
-    shown.desk.models.preferences().enabledIntegrations = std::set<std::string>{"photoshop"};
-    QMenu menu;
-    fillMenu(menu, MenuId::swatch, {shown.desk.ui, &shown.window});
-    for (auto* action : menu.actions()) {
-        if (action->text() != QStringLiteral("Send to Photoshop")) continue;
-        Q_EMIT action->menu()->aboutToShow();
-        ASSERT_EQ(action->menu()->actions().size(), 2);
-        action->menu()->actions().first()->trigger();
-    }
-    EXPECT_EQ(shown.desk.desktop.scripting.sources.size(), 1U);
-}
-
 TEST(Shortcuts, AreFoundByCommandAndByKey) {
     Desk desk;
     ShortcutsWindow window(desk.ui);

@@ -83,7 +83,7 @@ TEST(PaletteWindow, NarrowsStepByStep) {
          {}},
         {410, {"Type or Paste Values…", "Save As…", "Colour Editor"}, {"Open Picture…"}},
         {370, {"Save As…", "Colour Editor", "Shown as"}, {"Type or Paste Values…"}},
-        {330, {"Colour Editor", "Shown as", "More"}, {"Save As…", "3 swatches"}},
+        {330, {"Colour Editor", "Shown as", "More"}, {"Save As…", "Vision: Typical Vision"}},
         {290, {"Colour Editor", "Add a Blank Swatch", "More"}, {"Shown as"}},
         {260, {"Add a Blank Swatch", "More"}, {"Mode: Palette", "Code format: CSS HEX"}},
     };

@@ -115,6 +115,7 @@ ShortcutsWindow::ShortcutsWindow(Ui& ui) : ui_(ui), field_(new QLineEdit(this)),
     };
     scroll->setWidget(list_);
     column->addWidget(scroll, 1);
+    field_->setTextMargins(4, 0, 4, 0);
     field_->setPlaceholderText(worded("Search commands and keys"));
     field_->setAccessibleName(field_->placeholderText());
     auto* mark = field_->addAction(QIcon(), QLineEdit::LeadingPosition);

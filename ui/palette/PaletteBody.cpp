@@ -100,10 +100,10 @@ QRect PaletteBody::layOutPicture(QRect room) {
     divider_->setVisible(open);
     if (!open) return room;
     const auto share = ui_.models.preferences().pictureShare.value();
-    const auto width = PictureSplit::pictureWidth(share, room.width()) - kMargin / 2;
-    picture_->setGeometry(room.left(), room.top(), width, room.height());
-    divider_->setGeometry(room.left() + width - PaneDivider::kWidth / 2, room.top(),
-                          PaneDivider::kWidth, room.height());
+    const auto width = PictureSplit::pictureWidth(share, room.width());
+    // The swatches bring the margin between with them; there the divider lies.
+    picture_->setGeometry(room.adjusted(kMargin, kMargin, width - room.width(), -kMargin));
+    divider_->setGeometry(room.left() + width, room.top(), PaneDivider::kWidth, room.height());
     divider_->raise();
     return room.adjusted(width, 0, 0, 0);
 }

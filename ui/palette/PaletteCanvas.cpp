@@ -254,9 +254,7 @@ void PaletteCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemSta
     }
     ui_.painter.paint(painter, item.rect, drawn);
     if (drawn.leftBehind) return;
-    painter.setClipRect(item.rect);
-    ui_.painter.hairline(painter, isAlone ? item.rect : *group, metrics::kGroupRadius);
-    painter.setClipping(false);
+    if (isAlone) ui_.painter.hairline(painter, item.rect, metrics::kGroupRadius);
     if (drawn.selected && stand_.shape != SwatchShape::row) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(theme().color(Token::ink));
@@ -272,6 +270,8 @@ void PaletteCanvas::paintOverlay(QPainter& painter) {
         ui_.painter.fill(painter, rect(), colorAt(*selected), state_.vision);
         return;
     }
+    for (const auto& group : stand_.groups)
+        ui_.painter.hairline(painter, group, metrics::kGroupRadius);
     painter.setBrush(Qt::NoBrush);
     if (insertion_) {
         painter.setPen(Qt::NoPen);

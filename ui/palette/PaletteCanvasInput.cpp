@@ -178,6 +178,7 @@ void PaletteCanvas::beginRename(std::size_t at) {
     field_->setGeometry(fieldPlace(at));
     field_->setText(given ? fromUtf8(*given) : QString());
     field_->setPlaceholderText(items()[at].name);
+    field_->setTextMargins(6, 0, 6, 0);
     field_->selectAll();
     field_->installEventFilter(this);
     connect(field_, &QLineEdit::editingFinished, this, [this] { endRename(true); });
@@ -187,7 +188,7 @@ void PaletteCanvas::beginRename(std::size_t at) {
 }
 
 QRect PaletteCanvas::fieldPlace(std::size_t at) const {
-    constexpr int kLeastWidth = 140, kAboveFoot = 60, kBeside = 4;
+    constexpr int kLeastWidth = 116, kAboveFoot = 60, kBeside = 4;
     const auto& in = items()[at].rect;
     const auto words = ui_.painter.nameRect(in, look(at));
     const auto high = theme().scaled(28);

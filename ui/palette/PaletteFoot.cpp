@@ -184,9 +184,10 @@ void PaletteFoot::layOutTools() {
 
 int PaletteFoot::layOutFacts() {
     const QFontMetrics mono(ui_.theme.font(TextStyle::code));
-    const auto colour = target_ ? kSide + kChip + kGap + kLeastName + kCodeGap +
-                                      mono.horizontalAdvance(code_) + kGap + copy_->width()
-                                : kSide;
+    const auto colour = target_
+                            ? kSide + kChip + kGap + kLeastName + kCodeGap +
+                                  mono.horizontalAdvance(code_) + kGap + copy_->sizeHint().width()
+                            : kSide;
     const auto countWidth =
         static_cast<int>(figuresWidth(ui_.theme.font(TextStyle::body), countText())) + 2;
     const auto place = [this](QWidget& widget, int right, int width) {
