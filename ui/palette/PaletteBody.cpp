@@ -123,9 +123,9 @@ void PaletteBody::layOut() {
     editor_->setGeometry(editorPlace);
     editor_->raise();
     ring_->setGeometry(rect());
-    // What goes with the focus leaves it to the canvas.
+    // What goes with the focus leaves it to the canvas, which shows it if it did before.
     if ((wasInEditor && editor_->isHidden()) || (wasInPicture && picture_->isHidden()))
-        main()->setFocus(Qt::OtherFocusReason);
+        main()->setFocus(Qt::PopupFocusReason);
     update();
     if (targetChanged) targetChanged();
 }

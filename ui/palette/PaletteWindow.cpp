@@ -145,7 +145,7 @@ void PaletteWindow::syncPanels() {
     const bool barHasFocus = parts.pictureBar->isAncestorOf(QApplication::focusWidget());
     parts.pictureBar->setVisible(state_.isPictureWindowOpen && state_.imageSource.value().picture);
     if (barHasFocus && parts.pictureBar->isHidden())
-        parts.body->main()->setFocus(Qt::OtherFocusReason);
+        parts.body->main()->setFocus(Qt::PopupFocusReason);
     parts.body->setDisplay(display());
 }
 
