@@ -142,7 +142,10 @@ void PaletteWindow::syncPanels() {
     parts.toolBar->setVisible(!narrow);
     parts.foot->setCompact(narrow);
     parts.seedRow->setVisible(state_.mode.value() != HarmonyMode::paletteBuilder);
+    const bool barHasFocus = parts.pictureBar->isAncestorOf(QApplication::focusWidget());
     parts.pictureBar->setVisible(state_.isPictureWindowOpen && state_.imageSource.value().picture);
+    if (barHasFocus && parts.pictureBar->isHidden())
+        parts.body->main()->setFocus(Qt::PopupFocusReason);
     parts.body->setDisplay(display());
 }
 

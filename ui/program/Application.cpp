@@ -183,7 +183,8 @@ void Application::openAcknowledgements() {
 
 void Application::quit() {
     models_.quit([](bool quits) {
-        if (quits) QApplication::quit();
+        // QApplication::quit() would close every window, and each would ask once more.
+        if (quits) QApplication::exit();
     });
 }
 
