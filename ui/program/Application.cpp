@@ -37,13 +37,14 @@ Rgb meanOf(const QColor& one, const QColor& other) {
 
 } // namespace
 
-Application::Application()
-    : toasts_(notices_, notifications_), services_(toasts_, dialogues_),
+Application::Application(Surroundings surroundings)
+    : desktopSettings_(std::move(surroundings.settings)), toasts_(notices_, notifications_),
+      services_(std::move(surroundings), toasts_, dialogues_),
       models_(services_.services(),
               PaletteSurroundings::ofThisSystem(
                   services_.services().mainLoop, services_.services().background,
                   services_.services().folderWatch, services_.services().trash)),
-      theme_(models_.preferences(), desktopSettings_),
+      theme_(models_.preferences(), *desktopSettings_),
       painter_(theme_, models_.preferences()), ui_{models_, services_.services(),
                                                    theme_,  painter_,
                                                    *this,   notices_},
