@@ -102,12 +102,15 @@ void PaletteWindow::syncCollapsed() {
     parts.isPlacing = true;
     if (folds && !parts.strip) parts.strip = new CollapsedStrip(ui_, state_, this);
     const bool shows = isVisible();
+    // A window that gets or loses its frame is told nothing of where it is unless it is moved.
+    const auto corner = pos();
     parts.isFolded = folds;
     parts.unfolded->setVisible(!folds);
     parts.strip->setVisible(folds);
     setWindowFlag(Qt::FramelessWindowHint, folds);
     if (folds) {
         resizeStrip();
+        move(corner);
     } else {
         setMinimumSize(240, 180);
         restoreFrame();
