@@ -8,6 +8,7 @@
 #include "ui/palette/PaletteWindow.h"
 #include "ui/settings/SettingsWindow.h"
 #include "ui/shared/Canvas.h"
+#include "ui/shared/PanelAccessibility.h"
 #include "ui/shared/TintraStyle.h"
 
 #include <QApplication>
@@ -39,6 +40,7 @@ Application::Application()
       painter_(theme_, models_.preferences()), ui_{models_, services_.services(),
                                                    theme_,  painter_,
                                                    *this,   notices_} {
+    installPanelAccessibility();
     installCanvasAccessibility();
     dialogues_.setTheme(theme_);
     dialogues_.windowOf = [this](const ToastPlace& place) { return window(place); };
