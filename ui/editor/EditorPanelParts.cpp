@@ -129,7 +129,7 @@ void EditorPanel::connectEdits() {
     };
     plane_->hueChanged = [this](double degrees) { put(edited_.setHue(degrees), "hue"); };
     plane_->settled = settled;
-    code_->read = [this](const WashColor& color) { put(color, "code"); };
+    code_->read = [this](const WashColor& color) { put(asWritten(color), "code"); };
     code_->refused = [this](bool is) {
         refusal_->setVisible(is);
         place();
@@ -176,14 +176,7 @@ void EditorPanel::subscribe() {
     subscriptions_->add(preferences.editorSpace, [this] { setSpace(); });
     subscriptions_->add(preferences.editorPicker, [this] { restyle(); });
     subscriptions_->add(ui_.theme.version(), [this] { restyle(); });
-    // The profiles themselves may hear of it after this view.
-    const auto later = [this] {
-        QMetaObject::invokeMethod(
-            this, [this] { setSpace(); }, Qt::QueuedConnection);
-    };
-    subscriptions_->add(preferences.rgbProfile, later);
-    subscriptions_->add(preferences.cmykProfile, later);
-    subscriptions_->add(preferences.labIlluminant, later);
+    subscriptions_->add(preferences.profilesVersion, [this] { setSpace(); });
 }
 
 // Layout
