@@ -12,11 +12,13 @@
 #include "ui/shared/Theme.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -70,6 +72,14 @@ void EditorPanel::makeHead() {
     area_->setWidget(body_);
     body_->setAutoFillBackground(false);
     area_->viewport()->setAutoFillBackground(false);
+    // The bar stands on the margin: nothing is to be had sideways.
+    auto* const sideways = area_->horizontalScrollBar();
+    connect(sideways, &QAbstractSlider::valueChanged, sideways,
+            [sideways] { sideways->setValue(0); });
+    // However the keyboard comes to a control, it is seen.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now && body_->isAncestorOf(now)) area_->ensureWidgetVisible(now);
+    });
 
     name_ = new QLineEdit(body_);
     name_->setAccessibleName(worded("Name of the swatch"));
