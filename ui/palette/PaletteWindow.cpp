@@ -6,6 +6,7 @@
 #include "ui/palette/BandsCanvas.h"
 #include "ui/palette/EmptyState.h"
 #include "ui/palette/PaletteWindowParts.h"
+#include "ui/palette/StripCells.h"
 #include "ui/program/Windows.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
@@ -32,13 +33,6 @@ QWidget* firstStop(QWidget* region) {
     for (auto* next = region->nextInFocusChain(); next != region; next = next->nextInFocusChain())
         if (region->isAncestorOf(next) && takes(next)) return next;
     return nullptr;
-}
-
-void popUp(QWidget* parent, QPoint at, const std::function<void(QMenu&)>& fill) {
-    auto* menu = new QMenu(parent);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    fill(*menu);
-    menu->popup(at);
 }
 
 } // namespace
@@ -75,10 +69,9 @@ void PaletteWindow::assemble() {
     column->setContentsMargins({});
     column->setSpacing(0);
     // The order is that of the Tab key.
-    parts.menuBar = new QMenuBar(parts.unfolded);
-    parts.menuBar->setNativeMenuBar(false);
-    parts.menuBar->hide();
+    parts.menuBar = new CalledMenuBar(parts.unfolded);
     fillMenuBar(*parts.menuBar, contextNow);
+    parts.menuBar->followMenus();
     parts.toolBar = new PaletteToolBar(ui_, state_, contextNow, parts.unfolded);
     parts.seedRow = new SeedRow(ui_, state_, parts.unfolded);
     parts.body = new PaletteBody(ui_, state_, parts.unfolded);
@@ -93,15 +86,20 @@ void PaletteWindow::assemble() {
     connectBody();
 }
 
+void PaletteWindow::popUp(QPoint at, void (*fill)(QMenu&, const ActionContext&)) {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    fill(*menu, context());
+    menu->popup(at);
+}
+
 void PaletteWindow::connectBody() {
     auto& body = *parts_->body;
     body.targetChanged = [this] { parts_->foot->sync(); };
     body.empty().typeOrPaste = [this] { showPasteSheet(); };
     body.bands().fillMenu = [this](QMenu& menu) { fillSwatchMenu(menu, context()); };
     body.swatches().contextMenu = [this](QPoint at, bool onSwatch) {
-        popUp(this, at, [this, onSwatch](QMenu& menu) {
-            (onSwatch ? fillSwatchMenu : fillCanvasMenu)(menu, context());
-        });
+        popUp(at, onSwatch ? fillSwatchMenu : fillCanvasMenu);
     };
     body.swatches().moving = [this](auto move) { parts_->foot->setMove(move); };
 }
@@ -160,7 +158,11 @@ NoticeBar& PaletteWindow::notices() const {
 }
 
 std::optional<PaletteWindow::Target> PaletteWindow::target() const {
-    if (state_.mode.value() != HarmonyMode::paletteBuilder) return parts_->body->bands().target();
+    if (state_.mode.value() != HarmonyMode::paletteBuilder) {
+        if (!parts_->isFolded) return parts_->body->bands().target();
+        const auto colour = parts_->strip->cells().current();
+        return colour ? std::optional(Target{*colour, std::nullopt, std::nullopt}) : std::nullopt;
+    }
     const auto at = state_.selectedSwatch.value();
     if (!at || *at >= state_.swatches().size()) return std::nullopt;
     return Target{parts_->body->swatches().colorAt(*at), state_.swatches()[*at].name, *at};
@@ -197,19 +199,17 @@ void PaletteWindow::setPeeking(bool peeks) {
 }
 
 bool PaletteWindow::showsMenuBar() const {
-    return parts_->pinsMenuBar;
+    return parts_->menuBar->isPinned();
 }
 
 void PaletteWindow::toggleMenuBar() {
-    parts_->pinsMenuBar = !parts_->pinsMenuBar;
-    parts_->menuBar->setVisible(parts_->pinsMenuBar);
+    parts_->menuBar->setPinned(!parts_->menuBar->isPinned());
 }
 
 void PaletteWindow::openMenuBar() {
-    auto* bar = parts_->menuBar;
-    bar->show();
-    bar->setFocus(Qt::MenuBarFocusReason);
-    bar->setActiveAction(bar->actions().first());
+    // A strip has no room for a bar.
+    if (parts_->isFolded) return showContextMenu();
+    parts_->menuBar->call();
 }
 
 std::vector<QWidget*> PaletteWindow::regions() const {

@@ -4,6 +4,7 @@
 #include "state/Models.h"
 #include "ui/palette/FileDrops.h"
 #include "ui/palette/PaletteWindowParts.h"
+#include "ui/palette/StripCells.h"
 #include "ui/shared/ColourMime.h"
 
 #include <QDropEvent>
@@ -101,7 +102,10 @@ void PaletteWindow::syncCollapsed() {
     const bool folds = state_.isCollapsed;
     if (folds == parts.isFolded) return;
     parts.isPlacing = true;
-    if (folds && !parts.strip) parts.strip = new CollapsedStrip(ui_, state_, this);
+    if (folds && !parts.strip) {
+        parts.strip = new CollapsedStrip(ui_, state_, this);
+        parts.strip->cells().contextMenu = [this](QPoint at) { popUp(at, fillStripMenu); };
+    }
     parts.isFolded = folds;
     parts.unfolded->setVisible(!folds);
     parts.strip->setVisible(folds);
@@ -155,7 +159,12 @@ void PaletteWindow::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void PaletteWindow::dragMoveEvent(QDragMoveEvent* event) {
-    event->acceptProposedAction();
+    const bool refused = refusesColour(state_, *event);
+    state_.fileIsOver = !refused;
+    if (!refused) return event->acceptProposedAction();
+    // The cursor says no, but the drop is let come, to be told why.
+    event->setDropAction(Qt::IgnoreAction);
+    event->accept();
 }
 
 void PaletteWindow::dragLeaveEvent(QDragLeaveEvent*) {
