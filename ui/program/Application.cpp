@@ -8,6 +8,7 @@
 #include "ui/palette/PaletteWindow.h"
 #include "ui/settings/SettingsWindow.h"
 #include "ui/shared/Canvas.h"
+#include "ui/shared/PanelAccessibility.h"
 #include "ui/shared/TintraStyle.h"
 
 #include <QApplication>
@@ -37,18 +38,20 @@ Rgb meanOf(const QColor& one, const QColor& other) {
 
 } // namespace
 
-Application::Application()
-    : toasts_(notices_, notifications_), services_(toasts_, dialogues_),
+Application::Application(Surroundings surroundings)
+    : desktopSettings_(std::move(surroundings.settings)), toasts_(notices_, notifications_),
+      services_(std::move(surroundings), toasts_, dialogues_),
       models_(services_.services(),
               PaletteSurroundings::ofThisSystem(
                   services_.services().mainLoop, services_.services().background,
                   services_.services().folderWatch, services_.services().trash)),
-      theme_(models_.preferences(), desktopSettings_),
+      theme_(models_.preferences(), *desktopSettings_),
       painter_(theme_, models_.preferences()), ui_{models_, services_.services(),
                                                    theme_,  painter_,
                                                    *this,   notices_},
       requests_(ui_),
       sessionEnd_({.keep = [this] { models_.keep(); }, .leave = [this] { leave(); }}) {
+    installPanelAccessibility();
     installCanvasAccessibility();
     dialogues_.setTheme(theme_);
     dialogues_.windowOf = [this](const ToastPlace& place) { return window(place); };

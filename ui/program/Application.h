@@ -8,7 +8,6 @@
 #include "ui/program/SessionEnd.h"
 #include "ui/program/Windows.h"
 #include "ui/shared/NoticeBar.h"
-#include "ui/shared/PortalSettings.h"
 #include "ui/shared/SwatchPainter.h"
 #include "ui/shared/Theme.h"
 #include "ui/shared/WindowDialogues.h"
@@ -30,7 +29,7 @@ class ShortcutsWindow;
 /// together. One a process. Main loop.
 class Application final : public Windows {
 public:
-    Application();
+    explicit Application(Surroundings surroundings = Surroundings::ofThisDesktop());
     ~Application() override;
 
     /// Brings back what was there, opens the files and shows the windows.
@@ -59,13 +58,13 @@ private:
     template <class Window>
     void showOnly(QPointer<Window>& window);
 
+    std::unique_ptr<DesktopSettings> desktopSettings_;
     NoticeHistory notices_;
     DesktopNotifications notifications_;
     WindowToasts toasts_;
     WindowDialogues dialogues_;
     DesktopServices services_;
     Models models_;
-    PortalSettings desktopSettings_;
     Theme theme_;
     SwatchPainter painter_;
     Ui ui_;
