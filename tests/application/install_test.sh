@@ -32,7 +32,6 @@ if has appstreamcli; then
     appstreamcli validate --no-net "$share/metainfo/$id.metainfo.xml"
 fi
 if has update-mime-database; then
-    update-mime-database "$share/mime"
     for kind in $(sed -n 's/^MimeType=//p' "$share/applications/$id.desktop" | tr ';' ' '); do
         grep -q "<mediatype>$kind</mediatype>" "$share/metainfo/$id.metainfo.xml" ||
             fail "the metainfo misses $kind"
