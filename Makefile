@@ -11,7 +11,7 @@ SOURCES = $(shell git ls-files '*.h' '*.cpp')
 .PHONY: help run test bench fuzz format lint install packages clean
 
 help:
-	@echo "make run      install what is missing, build, and do the main job"
+	@echo "make run      install what is missing, build, and open the application"
 	@echo "make test     install what is missing, build, and run every test (also under sanitizers)"
 	@echo "make bench    run the benchmarks"
 	@echo "make fuzz     run each fuzz target for FUZZ_SECONDS (default 60)"
@@ -26,7 +26,7 @@ packages:
 run:
 	@scripts/install-packages build
 	@scripts/build release
-	@scripts/demonstrate build/release/bin/tintra tintra-demo
+	@scripts/open build/release/bin tintra-demo
 
 test: packages
 	@scripts/build release
