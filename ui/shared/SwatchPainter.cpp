@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kCheck = 12; ///< a square of the checkerboard, px
 constexpr int kButton = 28, kButtonGap = 2, kInset = 8;
+constexpr int kWordsOfColumn = 80; ///< a name of two lines and a code, with what is around them
 
 QPainterPath rounded(const QRectF& in, const std::array<int, 4>& radii) {
     QPainterPath path;
@@ -206,7 +207,10 @@ std::vector<QRectF> SwatchPainter::buttonRects(const QRectF& in, SwatchShape sha
     const auto step = side + kButtonGap;
     const bool isRow = shape == SwatchShape::row;
     const auto room = in.width() - 2 * kInset + kButtonGap;
-    const auto perLine = std::max<std::size_t>(1, static_cast<std::size_t>(room / step));
+    auto perLine = std::max<std::size_t>(1, static_cast<std::size_t>(room / step));
+    // One below the other in a high column; side by side where all have room, or none else.
+    const auto stack = static_cast<qreal>(count + 1) * step + theme_.scaled(kWordsOfColumn);
+    if (perLine < count && shape != SwatchShape::tile && stack <= in.height()) perLine = 1;
     for (std::size_t i = 0; i < count; ++i) {
         if (isRow) {
             const auto fromRight = static_cast<qreal>(count - i) * step;
@@ -223,7 +227,7 @@ std::vector<QRectF> SwatchPainter::buttonRects(const QRectF& in, SwatchShape sha
 }
 
 QPixmap SwatchPainter::card(const SwatchLook& look, QSize size, bool refused, qreal ratio) const {
-    constexpr int kMargin = 18;
+    constexpr int kMargin = 20; // the tilt, the rings and the badge
     constexpr qreal kTilt = -2;
     const QSize whole = size + QSize(2 * kMargin, 2 * kMargin);
     QPixmap pixmap(whole * ratio);
@@ -247,12 +251,13 @@ QPixmap SwatchPainter::card(const SwatchLook& look, QSize size, bool refused, qr
     plain.radii.fill(metrics::kGroupRadius);
     paint(painter, card, plain);
     if (refused) {
-        const QRectF badge(card.right() - 16, card.top() - 16, 30, 30);
+        const QRectF badge(card.right() - 18, card.top() - 12, 30, 30);
         painter.setPen(QPen(Qt::white, 2));
         painter.setBrush(QColor(0x16, 0x16, 0x16));
         painter.drawEllipse(badge);
         painter.setBrush(Qt::NoBrush);
-        const auto ring = badge.adjusted(8, 8, -8, -8);
+        const auto ring = badge.adjusted(9, 9, -9, -9);
+        painter.setPen(QPen(Qt::white, 1.5));
         painter.drawEllipse(ring);
         const auto reach = ring.width() / 2 * M_SQRT1_2;
         painter.drawLine(ring.center() - QPointF(reach, reach),
