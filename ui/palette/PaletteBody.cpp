@@ -127,8 +127,11 @@ void PaletteBody::layOut() {
 void PaletteBody::layOutMain(QRect room) {
     auto* shown = main();
     const auto* focus = QApplication::focusWidget();
-    const bool goesOn = focus != shown && dynamic_cast<const Canvas*>(focus) &&
-                        (focus == swatches_ || focus == bands_ || focus == empty_);
+    const auto* canvas = dynamic_cast<const Canvas*>(focus);
+    const bool goesOn =
+        focus != shown && canvas && (focus == swatches_ || focus == bands_ || focus == empty_);
+    // A ring appears for those alone who use the keyboard.
+    const bool showsFocus = goesOn && canvas->showsFocus();
     swatches_->setRows(state_.isPictureWindowOpen.value());
     // Beside a picture an empty palette only says what will stand there.
     swatchScroll_->setVisible(shown == swatches_ && !state_.swatches().empty());
@@ -138,7 +141,7 @@ void PaletteBody::layOutMain(QRect room) {
         empty_->setGeometry(room);
     else
         (shown == bands_ ? bandScroll_ : swatchScroll_)->setGeometry(room);
-    if (goesOn) shown->setFocus(Qt::OtherFocusReason);
+    if (goesOn) shown->setFocus(showsFocus ? Qt::OtherFocusReason : Qt::ActiveWindowFocusReason);
 }
 
 void PaletteBody::resizeEvent(QResizeEvent*) {
