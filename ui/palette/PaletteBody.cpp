@@ -110,6 +110,9 @@ QRect PaletteBody::layOutPicture(QRect room) {
 
 void PaletteBody::layOut() {
     auto room = rect();
+    const auto* focus = QApplication::focusWidget();
+    const bool wasInEditor = editor_->isAncestorOf(focus);
+    const bool wasInPicture = picture_->isAncestorOf(focus) || focus == picture_;
     const bool edits = state_.editorBuffer.value().has_value();
     const auto editorPlace =
         QRect(std::max(0, width() - editorWidth()), 0, std::min(editorWidth(), width()), height());
@@ -120,6 +123,9 @@ void PaletteBody::layOut() {
     editor_->setGeometry(editorPlace);
     editor_->raise();
     ring_->setGeometry(rect());
+    // What goes with the focus leaves it to the canvas, which shows it if it did before.
+    if ((wasInEditor && editor_->isHidden()) || (wasInPicture && picture_->isHidden()))
+        main()->setFocus(Qt::PopupFocusReason);
     update();
     if (targetChanged) targetChanged();
 }
@@ -133,15 +139,16 @@ void PaletteBody::layOutMain(QRect room) {
     // A ring appears for those alone who use the keyboard.
     const bool showsFocus = goesOn && canvas->showsFocus();
     swatches_->setRows(state_.isPictureWindowOpen.value());
+    QWidget* const places[] = {swatchScroll_, bandScroll_, empty_};
+    auto* const place = shown == empty_ ? places[2] : places[shown == bands_ ? 1 : 0];
     // Beside a picture an empty palette only says what will stand there.
-    swatchScroll_->setVisible(shown == swatches_ && !state_.swatches().empty());
-    bandScroll_->setVisible(shown == bands_);
-    empty_->setVisible(shown == empty_);
-    if (shown == empty_)
-        empty_->setGeometry(room);
-    else
-        (shown == bands_ ? bandScroll_ : swatchScroll_)->setGeometry(room);
+    place->setVisible(shown != swatches_ || !state_.swatches().empty());
+    place->setGeometry(room);
+    // The keyboard goes on before what had it is hidden: it would pass to a tool on the way.
+    if (goesOn && shown == empty_) empty_->setFocused(empty_->find(EmptyState::action, 0));
     if (goesOn) shown->setFocus(showsFocus ? Qt::OtherFocusReason : Qt::ActiveWindowFocusReason);
+    for (auto* const other : places)
+        if (other != place) other->hide();
 }
 
 void PaletteBody::resizeEvent(QResizeEvent*) {

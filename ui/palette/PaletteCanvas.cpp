@@ -1,5 +1,6 @@
 #include "ui/palette/PaletteCanvas.h"
 
+#include "colour/ColorNames.h"
 #include "platform/MainLoop.h"
 #include "platform/Services.h"
 #include "state/Models.h"
@@ -54,7 +55,7 @@ void PaletteCanvas::subscribe() {
     subscriptions_.add(preferences.formatOptions, repaint);
     subscriptions_.add(preferences.swatchBackdrop, repaint);
     subscriptions_.add(preferences.backdropColour, repaint);
-    subscriptions_.add(preferences.rgbProfile, repaint);
+    subscriptions_.add(preferences.profilesVersion, repaint);
     subscriptions_.add(preferences.showsWatermark, repaint);
     subscriptions_.add(state_.copyTick, [this] { flashCode(); });
     subscriptions_.add(state_.renamingSwatch, [this] {
@@ -130,7 +131,9 @@ QString PaletteCanvas::code(std::size_t at, const std::string& name) const {
 }
 
 CanvasItem PaletteCanvas::itemOf(std::size_t at, const QRectF& rect) const {
-    const auto name = state_.swatchName(at);
+    // What is being edited is called after what it has become.
+    const auto& given = state_.swatches()[at].name;
+    const auto name = given ? *given : ColorNames::shared().name(colorAt(at));
     CanvasItem item;
     item.rect = rect;
     item.kind = swatch;

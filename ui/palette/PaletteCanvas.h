@@ -93,6 +93,7 @@ private:
     std::size_t insertionAt(QPointF place) const;
     QRectF insertionBar() const;
     void setInsertion(std::optional<std::size_t> at);
+    void scrollOn();
     void flashCode();
 
     Ui& ui_;
@@ -106,7 +107,9 @@ private:
     QPointF pressedAt_;
     std::optional<std::size_t> insertion_; ///< where a drop would go
     std::optional<Drag> offered_;          ///< what is dragged over the canvas
-    std::optional<std::size_t> flashing_;  ///< whose code was just copied
+    QPointF draggedAt_;
+    std::unique_ptr<DelayedTask> scrolling_; ///< while the drag rests near an edge
+    std::optional<std::size_t> flashing_;    ///< whose code was just copied
     std::unique_ptr<DelayedTask> flash_;
     QPointer<QLineEdit> field_;
     std::size_t renamed_ = 0;

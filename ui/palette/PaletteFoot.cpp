@@ -1,5 +1,6 @@
 #include "ui/palette/PaletteFoot.h"
 
+#include "colour/ColorNames.h"
 #include "palettes/FileNames.h"
 #include "palettes/PaletteExport.h"
 #include "platform/File.h"
@@ -7,6 +8,7 @@
 #include "ui/actions/FormatMenus.h"
 #include "ui/palette/DragHandle.h"
 #include "ui/palette/PaletteToolBar.h"
+#include "ui/shared/ColourDrag.h"
 #include "ui/shared/ColourMime.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Figures.h"
@@ -106,7 +108,7 @@ void PaletteFoot::subscribe() {
     subscriptions_.add(state_.isPictureWindowOpen, again);
     subscriptions_.add(preferences.format, again);
     subscriptions_.add(preferences.formatOptions, again);
-    subscriptions_.add(preferences.rgbProfile, again);
+    subscriptions_.add(preferences.profilesVersion, again);
     subscriptions_.add(ui_.theme.version(), again);
 }
 
@@ -141,8 +143,9 @@ void PaletteFoot::sync() {
     name_.clear();
     code_.clear();
     if (target_) {
-        const auto name = target_->swatch ? state_.swatchName(*target_->swatch)
-                                          : target_->name.value_or(std::string());
+        const auto nearest =
+            target_->swatch ? ColorNames::shared().name(target_->color) : std::string();
+        const auto name = target_->name.value_or(nearest);
         name_ = oneLine(name);
         code_ = fromUtf8(preferences.format.value().string(target_->color, name,
                                                            preferences.formatOptions.value()));
@@ -283,11 +286,7 @@ void PaletteFoot::dragColour() {
     look.vision = state_.vision;
     look.name = name_;
     look.code = code_;
-    auto* drag = new QDrag(chip_);
-    drag->setMimeData(mimeOf(dragged, code_).release());
-    drag->setPixmap(ui_.painter.card(look, {128, 96}, false, devicePixelRatioF()));
-    drag->setHotSpot({30, 30});
-    drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
+    tintra::dragColour(*chip_, ui_.painter, dragged, look, kDragCard);
 }
 
 void PaletteFoot::dragPalette() {

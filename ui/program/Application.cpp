@@ -8,14 +8,23 @@
 #include "ui/palette/PaletteWindow.h"
 #include "ui/settings/SettingsWindow.h"
 #include "ui/shared/Canvas.h"
+#include "ui/shared/PanelAccessibility.h"
 #include "ui/shared/TintraStyle.h"
 
 #include <QApplication>
-#include <QSessionManager>
+#include <algorithm>
 #include <utility>
 
 namespace tintra {
 namespace {
+
+/// In front of other windows, with the keyboard.
+void bringUp(QWidget& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
 
 /// Decides first whether colours are light or dark where the style asks for a palette.
 Rgb rgbOf(const QColor& color) {
@@ -39,7 +48,10 @@ Application::Application(Surroundings surroundings)
       theme_(models_.preferences(), *desktopSettings_),
       painter_(theme_, models_.preferences()), ui_{models_, services_.services(),
                                                    theme_,  painter_,
-                                                   *this,   notices_} {
+                                                   *this,   notices_},
+      requests_(ui_),
+      sessionEnd_({.keep = [this] { models_.keep(); }, .leave = [this] { leave(); }}) {
+    installPanelAccessibility();
     installCanvasAccessibility();
     dialogues_.setTheme(theme_);
     dialogues_.windowOf = [this](const ToastPlace& place) { return window(place); };
@@ -78,9 +90,7 @@ void Application::connectModels() {
             .ground = rgbOf(theme_.color(Token::ground)),
             .checks = meanOf(theme_.color(Token::checkLight), theme_.color(Token::checkDark))};
     });
-    // A session that ends does not wait for questions: everything is kept and comes back.
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp,
-                     [this](QSessionManager&) { models_.keep(); });
+    QObject::connect(qApp, &QGuiApplication::lastWindowClosed, qApp, [this] { quit(); });
 }
 
 void Application::applyTheme() {
@@ -97,25 +107,7 @@ void Application::applyTheme() {
 void Application::start(const std::vector<std::filesystem::path>& files) {
     models_.start([this](const Uuid& id) { openPalette(id); });
     if (palettes_.empty()) openPalette(models_.workspaces().openPrimary().id());
-    open(files);
-}
-
-void Application::open(const std::vector<std::filesystem::path>& files) {
-    for (const auto& file : files)
-        openPaletteFile(file);
-}
-
-void Application::openPaletteFile(const std::filesystem::path& file) {
-    auto* front = models_.workspaces().front();
-    const bool takesIt = front && front->swatches().empty() && !front->attachment().value();
-    auto& state = takesIt ? *front : models_.workspaces().openExtra();
-    state.open(file);
-}
-
-void Application::activate() {
-    auto* front = models_.workspaces().front();
-    if (!front) front = &models_.workspaces().openPrimary();
-    openPalette(front->id());
+    if (!files.empty()) requests_.open(files);
 }
 
 PaletteWindow* Application::palette(const Uuid& id) const {
@@ -138,12 +130,20 @@ QWidget* Application::window(const ToastPlace& place) const {
 void Application::openPalette(const Uuid& id) {
     auto& window = palettes_[id];
     if (!window) window = std::make_unique<PaletteWindow>(ui_, *models_.workspaces().state(id));
-    window->show();
-    window->raise();
-    window->activateWindow();
+    bringUp(*window);
+}
+
+bool Application::isOnlyWindow(const QWidget* window) const {
+    const auto others = QApplication::topLevelWidgets();
+    return std::ranges::none_of(others, [window](const QWidget* other) {
+        return other != window && other->isVisible() && other->windowType() == Qt::Window &&
+               !other->parentWidget() && other->testAttribute(Qt::WA_QuitOnClose);
+    });
 }
 
 void Application::closePalette(const Uuid& id) {
+    // The last window is the program: it comes back at the next start.
+    if (isOnlyWindow(palette(id))) return quit();
     models_.workspaces().close(id, [this, id](bool closed) {
         if (!closed) return;
         // The window may be in the middle of the event that closes it.
@@ -159,10 +159,10 @@ void Application::showOnly(QPointer<Window>& window) {
     if (!window) {
         window = new Window(ui_);
         window->setAttribute(Qt::WA_DeleteOnClose);
+        // The program is its palettes: none of these keeps it running.
+        window->setAttribute(Qt::WA_QuitOnClose, false);
     }
-    window->show();
-    window->raise();
-    window->activateWindow();
+    bringUp(*window);
 }
 
 void Application::openSettings() {
@@ -184,8 +184,14 @@ void Application::openAcknowledgements() {
 
 void Application::quit() {
     models_.quit([](bool quits) {
-        if (quits) QApplication::quit();
+        // Not QApplication::quit, which would close every window again, each with its question.
+        if (quits) QApplication::exit();
     });
+}
+
+void Application::leave() {
+    models_.keep();
+    QApplication::exit();
 }
 
 } // namespace tintra

@@ -3,7 +3,9 @@
 #include "platform/desktop/services/DesktopNotifications.h"
 #include "state/Models.h"
 #include "ui/Ui.h"
+#include "ui/program/DesktopRequests.h"
 #include "ui/program/DesktopServices.h"
+#include "ui/program/SessionEnd.h"
 #include "ui/program/Windows.h"
 #include "ui/shared/NoticeBar.h"
 #include "ui/shared/SwatchPainter.h"
@@ -32,10 +34,7 @@ public:
 
     /// Brings back what was there, opens the files and shows the windows.
     void start(const std::vector<std::filesystem::path>& files);
-    /// Opens palettes, each in the front window when that is empty, else in a new one.
-    void open(const std::vector<std::filesystem::path>& files);
-    /// Brings the front window up.
-    void activate();
+    DesktopRequests& requests() { return requests_; }
     Ui& ui() { return ui_; }
 
     PaletteWindow* palette(const Uuid& id) const override;
@@ -52,7 +51,9 @@ public:
 private:
     void applyTheme();
     void connectModels();
-    void openPaletteFile(const std::filesystem::path& file);
+    bool isOnlyWindow(const QWidget* window) const;
+    /// Ends the program without a question: everything is kept and comes back.
+    void leave();
     /// Shows the one window of its kind, made when first asked for.
     template <class Window>
     void showOnly(QPointer<Window>& window);
@@ -72,6 +73,8 @@ private:
     QPointer<ShortcutsWindow> shortcuts_;
     QPointer<AboutWindow> about_;
     QPropertyNotifier themeChanged_;
+    DesktopRequests requests_;
+    SessionEnd sessionEnd_;
 };
 
 } // namespace tintra

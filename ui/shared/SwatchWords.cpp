@@ -23,7 +23,7 @@ bool isAtFoot(SwatchShape shape) {
            shape == SwatchShape::bandCell;
 }
 
-/// The name in at most two lines, the second one cut with an ellipsis.
+/// The name in at most two lines, cut with an ellipsis where a word or the rest is too long.
 QStringList linesOf(const QString& text, const QFont& font, qreal width) {
     const QFontMetricsF measure(font);
     if (measure.horizontalAdvance(text) <= width) return {text};
@@ -33,7 +33,9 @@ QStringList linesOf(const QString& text, const QFont& font, qreal width) {
     line.setLineWidth(width);
     layout.endLayout();
     const auto cut = line.textStart() + line.textLength();
-    const auto first = text.left(cut).trimmed(), rest = text.mid(cut).trimmed();
+    // A line holds a word at least, however long that is.
+    const auto first = measure.elidedText(text.left(cut).trimmed(), Qt::ElideRight, width);
+    const auto rest = text.mid(cut).trimmed();
     if (rest.isEmpty()) return {first};
     return {first, measure.elidedText(rest, Qt::ElideRight, width)};
 }
