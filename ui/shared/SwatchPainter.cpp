@@ -38,7 +38,26 @@ bool isSquare(const std::array<int, 4>& radii) {
     return std::all_of(radii.begin(), radii.end(), [](int radius) { return radius == 0; });
 }
 
-/// Fills the shape without seams between neighbours: square ones by whole pixels.
+/// Brought to whole pixels of the screen, so that neighbours meet without a seam at every ratio;
+/// as it is where the painter is turned.
+QRectF onPixels(const QPainter& painter, const QRectF& in) {
+    const auto toDevice = painter.deviceTransform();
+    if (toDevice.type() > QTransform::TxScale) return in;
+    const auto there = toDevice.mapRect(in);
+    const QPointF topLeft(std::round(there.left()), std::round(there.top()));
+    const QPointF bottomRight(std::round(there.right()), std::round(there.bottom()));
+    return toDevice.inverted().mapRect(QRectF(topLeft, bottomRight));
+}
+
+/// The shape of a ring within a swatch.
+QPainterPath ringPath(const QRectF& in, const std::array<int, 4>& radii, qreal inset) {
+    auto inner = radii;
+    for (auto& radius : inner)
+        radius = std::max(0, radius - static_cast<int>(std::lround(inset)));
+    return rounded(in.adjusted(inset, inset, -inset, -inset), inner);
+}
+
+/// Fills the shape without seams between neighbours.
 void fillShape(QPainter& painter, const QRectF& in, const std::array<int, 4>& radii,
                const QBrush& brush) {
     if (isSquare(radii)) {
@@ -84,8 +103,9 @@ QColor SwatchPainter::foreground(const WashColor& color, Vision vision) const {
     return toQColor(flat(color, vision).readableForeground());
 }
 
-void SwatchPainter::fill(QPainter& painter, const QRectF& in, const WashColor& color, Vision vision,
-                         std::array<int, 4> radii) const {
+void SwatchPainter::fill(QPainter& painter, const QRectF& place, const WashColor& color,
+                         Vision vision, std::array<int, 4> radii) const {
+    const auto in = onPixels(painter, place);
     if (color.isOpaque()) {
         fillShape(painter, in, radii, toQColor(simulate(vision, color)));
         return;
@@ -183,12 +203,12 @@ void SwatchPainter::paintRings(QPainter& painter, const QRectF& in, const Swatch
     if (look.focused && look.shape != SwatchShape::tile) {
         const auto other = ink == QColor(Qt::black) ? QColor(Qt::white) : QColor(Qt::black);
         painter.setPen(QPen(ink, 3));
-        painter.drawPath(rounded(in.adjusted(1.5, 1.5, -1.5, -1.5), look.radii));
+        painter.drawPath(ringPath(in, look.radii, 1.5));
         painter.setPen(QPen(other, 2));
-        painter.drawPath(rounded(in.adjusted(4, 4, -4, -4), look.radii));
+        painter.drawPath(ringPath(in, look.radii, 4));
     } else if (look.selected) {
         painter.setPen(QPen(ink, 2));
-        painter.drawPath(rounded(in.adjusted(1, 1, -1, -1), look.radii));
+        painter.drawPath(ringPath(in, look.radii, 1));
     }
 }
 
