@@ -166,7 +166,7 @@ constexpr std::array kScenes{
     Scene{"palette-empty", kBoth, empty},         Scene{"palette-ramp", kBoth, ramp},
     Scene{"palette-triadic", kBoth, triadic},     Scene{"palette-dragging", kBoth, dragging},
     Scene{"palette-narrow", kBoth, narrow},       Scene{"strip-collapsed", kBoth, collapsed},
-    Scene{"palette-backdrops", kBoth, backdrops},
+    Scene{"palette-backdrops", kLight, backdrops},
 };
 
 } // namespace

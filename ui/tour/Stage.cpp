@@ -31,7 +31,7 @@ public:
 
 private:
     // With this one an empty window shows the quotation that the guide shows.
-    std::uint64_t state_ = 3;
+    std::uint64_t state_ = 6;
 };
 
 /// Work in the order in which it was given, between two events.
