@@ -133,8 +133,11 @@ void PaletteBody::layOut() {
 void PaletteBody::layOutMain(QRect room) {
     auto* shown = main();
     const auto* focus = QApplication::focusWidget();
-    const bool goesOn = focus != shown && dynamic_cast<const Canvas*>(focus) &&
-                        (focus == swatches_ || focus == bands_ || focus == empty_);
+    const auto* canvas = dynamic_cast<const Canvas*>(focus);
+    const bool goesOn =
+        focus != shown && canvas && (focus == swatches_ || focus == bands_ || focus == empty_);
+    // A ring appears for those alone who use the keyboard.
+    const bool showsFocus = goesOn && canvas->showsFocus();
     swatches_->setRows(state_.isPictureWindowOpen.value());
     QWidget* const places[] = {swatchScroll_, bandScroll_, empty_};
     auto* const place = shown == empty_ ? places[2] : places[shown == bands_ ? 1 : 0];
@@ -143,7 +146,7 @@ void PaletteBody::layOutMain(QRect room) {
     place->setGeometry(room);
     // The keyboard goes on before what had it is hidden: it would pass to a tool on the way.
     if (goesOn && shown == empty_) empty_->setFocused(empty_->find(EmptyState::action, 0));
-    if (goesOn) shown->setFocus(Qt::OtherFocusReason);
+    if (goesOn) shown->setFocus(showsFocus ? Qt::OtherFocusReason : Qt::ActiveWindowFocusReason);
     for (auto* const other : places)
         if (other != place) other->hide();
 }

@@ -221,9 +221,9 @@ bool Canvas::event(QEvent* event) {
 void Canvas::paintEvent(QPaintEvent* event) {
     layOut();
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::TextAntialiasing);
+    // Smooth edges of the ground would let through what lies beneath, at ratios such as 1.25.
     paintGround(painter, event->rect());
+    painter.setRenderHint(QPainter::Antialiasing);
     const auto beyond = overhang();
     const QRectF dirty = event->rect().adjusted(-beyond, -beyond, beyond, beyond);
     const bool ring = showsFocus();

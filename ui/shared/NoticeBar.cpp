@@ -105,7 +105,7 @@ void NoticeBar::startClock() {
 }
 
 void NoticeBar::place() {
-    const QFontMetricsF words(theme_.font(TextStyle::control));
+    const QFontMetricsF words(theme_.font(TextStyle::control, theme_.color(Token::onsel)));
     auto wanted = words.horizontalAdvance(text_.left(kMeasured)) + 2 * kSide;
     if (action_) wanted += kGap + words.horizontalAdvance(shown(action_->title));
     const auto room = qreal(parentWidget()->width() - 2 * kSide);
@@ -120,7 +120,7 @@ void NoticeBar::paintEvent(QPaintEvent*) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme_.color(Token::sel));
     painter.drawRoundedRect(rect(), metrics::kGroupRadius, metrics::kGroupRadius);
-    auto font = theme_.font(TextStyle::control);
+    auto font = theme_.font(TextStyle::control, theme_.color(Token::onsel));
     painter.setFont(font);
     painter.setPen(theme_.color(Token::onsel));
     auto room = QRectF(rect()).adjusted(kSide, 0, -kSide, 0);

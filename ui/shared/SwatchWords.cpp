@@ -12,6 +12,7 @@ namespace tintra {
 namespace {
 
 constexpr int kInset = 12;    ///< of words from the edges of a swatch, px
+constexpr int kTight = 4;     ///< of a code that has no room else
 constexpr int kMark = 24;     ///< the circle or square around a pin's number
 constexpr int kRowIndex = 36; ///< what the number takes of a row
 constexpr int kButton = 28, kButtonGap = 2;
@@ -44,6 +45,10 @@ QStringList linesOf(const QString& text, const QFont& font, qreal width) {
 SwatchWords::SwatchWords(const Theme& theme, const QRectF& in, const SwatchLook& look)
     : theme_(theme), in_(in), look_(look) {}
 
+QFont SwatchWords::measured(TextStyle style) const {
+    return theme_.font(style, Qt::black);
+}
+
 QString SwatchWords::share() const {
     if (look_.color.isOpaque()) return {};
     return QString::number(std::lround(std::clamp(look_.color.a, 0.0, 1.0) * 100)) +
@@ -53,7 +58,7 @@ QString SwatchWords::share() const {
 int SwatchWords::nameLines() const {
     if (look_.shape == SwatchShape::bandCell) return 0;
     const auto width = in_.width() - 2 * kInset;
-    return static_cast<int>(linesOf(look_.name, theme_.font(TextStyle::name), width).size());
+    return static_cast<int>(linesOf(look_.name, measured(TextStyle::name), width).size());
 }
 
 QRectF SwatchWords::code() const {
@@ -65,12 +70,12 @@ QRectF SwatchWords::code() const {
         return {in_.left() + kInset, in_.bottom() - kInset - line, in_.width() - 2 * kInset, line};
     case SwatchShape::onSide: {
         const auto length =
-            QFontMetricsF(theme_.font(TextStyle::codeOnSide)).horizontalAdvance(look_.code);
+            QFontMetricsF(measured(TextStyle::codeOnSide)).horizontalAdvance(look_.code);
         return {in_.center().x() - line / 2, in_.bottom() - kInset - length, line, length};
     }
     case SwatchShape::row: {
         const auto width =
-            QFontMetricsF(theme_.font(TextStyle::code)).horizontalAdvance(look_.code) + 2;
+            QFontMetricsF(measured(TextStyle::code)).horizontalAdvance(look_.code) + 2;
         return {in_.right() - kInset - width, in_.center().y() - line / 2, width, line};
     }
     case SwatchShape::cell:
@@ -112,7 +117,7 @@ QRectF SwatchWords::indexRect() const {
     if (look_.shape == SwatchShape::row)
         return {in_.left() + kInset, in_.center().y() - kMark / 2.0, kMark, kMark};
     if (look_.pinned) return {in_.left() + kInset, in_.top() + kInset, kMark, kMark};
-    const auto width = figuresWidth(theme_.font(TextStyle::caption), look_.index);
+    const auto width = figuresWidth(measured(TextStyle::caption), look_.index);
     return {in_.left() + kInset, in_.top() + kInset, width, line};
 }
 
@@ -124,8 +129,7 @@ QRectF SwatchWords::ground() const {
     case SwatchShape::row:
         return {in_.left(), in_.center().y() - least / 2, in_.width(), least};
     case SwatchShape::onSide: {
-        const auto words =
-            QFontMetricsF(theme_.font(TextStyle::name)).horizontalAdvance(look_.name);
+        const auto words = QFontMetricsF(measured(TextStyle::name)).horizontalAdvance(look_.name);
         const auto place = name();
         const auto top = place.bottom() - std::min(words, place.height()) - kInset / 2.0;
         return QRectF(QPointF(in_.left(), std::max(in_.top(), top)), in_.bottomRight());
@@ -140,7 +144,7 @@ QRectF SwatchWords::ground() const {
 void SwatchWords::paintIndex(QPainter& painter, const QColor& ink, const QColor& ground) const {
     if (look_.index.isEmpty() || look_.shape == SwatchShape::onSide) return;
     const auto place = indexRect();
-    painter.setFont(theme_.font(TextStyle::caption));
+    painter.setFont(theme_.font(TextStyle::caption, ink));
     if (!look_.color.isOpaque()) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(ground);
@@ -165,7 +169,7 @@ void SwatchWords::paintOnSide(QPainter& painter) const {
     painter.save();
     painter.translate(in_.center().x(), in_.bottom() - kInset);
     painter.rotate(-90);
-    const auto codeFont = theme_.font(TextStyle::codeOnSide);
+    const auto codeFont = measured(TextStyle::codeOnSide);
     const auto length = QFontMetricsF(codeFont).horizontalAdvance(look_.code);
     const qreal line = theme_.lineHeight(TextStyle::name);
     const auto room = in_.height() - 2 * kInset;
@@ -176,8 +180,8 @@ void SwatchWords::paintOnSide(QPainter& painter) const {
     }
     const auto nameRoom = room - length - kInset;
     if (nameRoom > line && !look_.hidesName) {
-        const auto font = theme_.font(TextStyle::name);
-        painter.setFont(font);
+        const auto font = measured(TextStyle::name);
+        painter.setFont(theme_.font(TextStyle::name, painter.pen().color()));
         painter.drawText(QRectF(length + kInset, -line / 2, nameRoom, line),
                          Qt::AlignLeft | Qt::AlignVCenter,
                          QFontMetricsF(font).elidedText(look_.name, Qt::ElideRight, nameRoom));
@@ -188,8 +192,8 @@ void SwatchWords::paintOnSide(QPainter& painter) const {
 void SwatchWords::paintName(QPainter& painter) const {
     const auto place = name();
     if (look_.hidesName || place.width() < 8) return;
-    const auto font = theme_.font(TextStyle::name);
-    painter.setFont(font);
+    const auto font = measured(TextStyle::name);
+    painter.setFont(theme_.font(TextStyle::name, painter.pen().color()));
     if (look_.shape == SwatchShape::row) {
         painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                          QFontMetricsF(font).elidedText(look_.name, Qt::ElideRight, place.width()));
@@ -206,7 +210,13 @@ void SwatchWords::paintName(QPainter& painter) const {
 
 void SwatchWords::paintCode(QPainter& painter, const QColor& ink, const QColor& ground) const {
     auto place = code();
-    const auto font = theme_.font(TextStyle::code);
+    auto font = measured(TextStyle::code);
+    if (isAtFoot(look_.shape) &&
+        QFontMetricsF(font).horizontalAdvance(look_.code) > place.width()) {
+        // The eight digits of a translucent colour find room in the narrowest column.
+        font = measured(TextStyle::codeOnSide);
+        place.setRight(in_.right() - kTight);
+    }
     const QFontMetricsF measure(font);
     painter.setFont(font);
     const auto alpha = isAtFoot(look_.shape) ? share() : QString();

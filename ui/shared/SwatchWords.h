@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/shared/SwatchPainter.h"
+#include "ui/shared/Theme.h"
 
 #include <QRectF>
 #include <QString>
@@ -30,6 +31,10 @@ private:
     int nameLines() const;
     /// "60%" for a translucent colour, else nothing.
     QString share() const;
+
+    /// The face that words are measured in: of dark ink, which is the wider one, so that a swatch
+    /// has the same lines whatever its colour.
+    QFont measured(TextStyle style) const;
 
     const Theme& theme_;
     const QRectF in_;

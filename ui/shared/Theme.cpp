@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QPainter>
 #include <QStringBuilder>
 #include <QSvgRenderer>
@@ -103,6 +104,28 @@ QStringList families(Face face) {
     return {systemText};
 }
 
+/// Whether the interface is set in Inter.
+bool isOurs() {
+    static const bool is =
+        QFontInfo(QFont(QStringLiteral("Inter"))).family() == QStringLiteral("Inter");
+    return is;
+}
+
+/// FreeType darkens the stems of Inter's outlines, and Qt blends them by gamma: together that is
+/// right for dark ink, but makes light ink look a weight heavier than it is.
+QFont::Weight lighter(QFont::Weight weight) {
+    switch (weight) {
+    case QFont::DemiBold:
+        return QFont::Medium;
+    case QFont::Medium:
+        return QFont::Normal;
+    case QFont::Normal:
+        return QFont::Light;
+    default:
+        return weight;
+    }
+}
+
 } // namespace
 
 struct Theme::Subscriptions {
@@ -154,11 +177,16 @@ QColor Theme::color(Token token) const {
 }
 
 QFont Theme::font(TextStyle style) const {
+    return font(style, color(Token::ink));
+}
+
+QFont Theme::font(TextStyle style, const QColor& ink) const {
     const auto& row = rowOf(style);
     QFont font;
     font.setFamilies(families(row.face));
     font.setPixelSize(scaled(row.size));
-    font.setWeight(row.weight);
+    const bool growsHeavy = row.face != Face::mono && isOurs() && ink.lightnessF() > 0.5F;
+    font.setWeight(growsHeavy ? lighter(row.weight) : row.weight);
     // Ligatures of a mono face would join the hyphens of "--name".
     if (row.face == Face::mono) font.setStyleStrategy(QFont::PreferNoShaping);
     return font;
