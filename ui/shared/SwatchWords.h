@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/shared/SwatchPainter.h"
+#include "ui/shared/TextLines.h"
 
 #include <QRectF>
 #include <QString>
@@ -10,7 +11,7 @@ namespace tintra {
 /// Where the words of a swatch stand, and their painting.
 class SwatchWords {
 public:
-    SwatchWords(const Theme& theme, const QRectF& in, const SwatchLook& look);
+    SwatchWords(const Theme& theme, TextLines& lines, const QRectF& in, const SwatchLook& look);
 
     /// In the coordinates of the swatch, rotated shapes included; empty where a word has no room.
     QRectF name() const;
@@ -32,6 +33,7 @@ private:
     QString share() const;
 
     const Theme& theme_;
+    TextLines& lines_;
     const QRectF in_;
     const SwatchLook& look_;
 };
