@@ -218,7 +218,13 @@ void EditorPanel::place() {
     const auto foot = std::max(foot_->heightForWidth(width()), foot_->sizeHint().height());
     foot_->setGeometry(0, height() - foot, width(), foot);
     area_->setGeometry(1, 0, width() - 1, height() - foot);
-    body_->resize(width() - 1, placeBody());
+    auto high = placeBody();
+    const auto lack = std::max(0, plane_->lack() + high - area_->height());
+    if (lack != plane_->lack()) {
+        plane_->setLack(lack);
+        high = placeBody();
+    }
+    body_->resize(width() - 1, high);
 }
 
 int EditorPanel::placeBody() {

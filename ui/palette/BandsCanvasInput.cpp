@@ -144,11 +144,12 @@ void BandsCanvas::mouseReleaseEvent(QMouseEvent* event) {
 
 void BandsCanvas::startDrag(Spot spot) {
     auto look = this->look(items()[static_cast<std::size_t>(itemOf(spot))], {});
-    QDrag drag(this);
-    drag.setMimeData(mimeOf({colorAt(spot), std::nullopt, DragOfBand{}}, code(spot)).release());
-    drag.setPixmap(ui_.painter.card(look, QSize(128, 96), false, devicePixelRatioF()));
-    drag.setHotSpot({30, 30});
-    drag.exec(Qt::CopyAction, Qt::CopyAction);
+    // On the heap: a window that is closed in the middle takes it along.
+    auto* drag = new QDrag(this);
+    drag->setMimeData(mimeOf({colorAt(spot), std::nullopt, DragOfBand{}}, code(spot)).release());
+    drag->setPixmap(ui_.painter.card(look, QSize(128, 96), false, devicePixelRatioF()));
+    drag->setHotSpot({30, 30});
+    drag->exec(Qt::CopyAction, Qt::CopyAction);
 }
 
 // The keyboard

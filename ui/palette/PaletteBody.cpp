@@ -117,6 +117,9 @@ QRect PaletteBody::layOutPicture(QRect room) {
 
 void PaletteBody::layOut() {
     auto room = rect();
+    const auto* focus = QApplication::focusWidget();
+    const bool wasInEditor = editor_->isAncestorOf(focus);
+    const bool wasInPicture = picture_->isAncestorOf(focus) || focus == picture_;
     const bool edits = state_.editorBuffer.value().has_value();
     const auto editorPlace =
         QRect(std::max(0, width() - editorWidth()), 0, std::min(editorWidth(), width()), height());
@@ -127,6 +130,9 @@ void PaletteBody::layOut() {
     editor_->setGeometry(editorPlace);
     editor_->raise();
     ring_->setGeometry(rect());
+    // What goes with the focus leaves it to the canvas, which shows it if it did before.
+    if ((wasInEditor && editor_->isHidden()) || (wasInPicture && picture_->isHidden()))
+        main()->setFocus(Qt::PopupFocusReason);
     update();
     if (targetChanged) targetChanged();
 }

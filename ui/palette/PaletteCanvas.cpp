@@ -1,5 +1,6 @@
 #include "ui/palette/PaletteCanvas.h"
 
+#include "colour/ColorNames.h"
 #include "platform/MainLoop.h"
 #include "platform/Services.h"
 #include "state/Models.h"
@@ -147,7 +148,9 @@ QString PaletteCanvas::code(std::size_t at, const std::string& name) const {
 }
 
 CanvasItem PaletteCanvas::itemOf(std::size_t at, const QRectF& rect) const {
-    const auto name = state_.swatchName(at);
+    // What is being edited is called after what it has become.
+    const auto& given = state_.swatches()[at].name;
+    const auto name = given ? *given : ColorNames::shared().name(colorAt(at));
     CanvasItem item;
     item.rect = rect;
     item.kind = swatch;

@@ -27,15 +27,16 @@ void PaletteCanvas::startDrag(std::size_t at) {
                        DragOfSwatch{{state_.currentPaletteName(), state_.id(), held.id, at}}};
     auto shape = look(at);
     const bool fromStrip = items().size() > 12;
-    QDrag drag(this);
-    drag.setMimeData(mimeOf(dragged, shape.code).release());
-    drag.setPixmap(ui_.painter.card(shape, fromStrip ? QSize(96, 72) : QSize(128, 96), false,
+    // On the heap: a window that is closed in the middle takes it along.
+    auto* drag = new QDrag(this);
+    drag->setMimeData(mimeOf(dragged, shape.code).release());
+    drag->setPixmap(ui_.painter.card(shape, fromStrip ? QSize(96, 72) : QSize(128, 96), false,
                                     devicePixelRatioF()));
-    drag.setHotSpot({30, 30});
+    drag->setHotSpot({30, 30});
     state_.draggingSwatch = at;
     update();
     const QPointer<PaletteCanvas> self(this);
-    drag.exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
+    drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
     // The window may have been closed in the middle of the drag.
     if (!self) return;
     state_.draggingSwatch = std::nullopt;

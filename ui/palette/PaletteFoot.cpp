@@ -1,5 +1,6 @@
 #include "ui/palette/PaletteFoot.h"
 
+#include "colour/ColorNames.h"
 #include "palettes/FileNames.h"
 #include "palettes/PaletteExport.h"
 #include "platform/File.h"
@@ -133,8 +134,9 @@ void PaletteFoot::sync() {
     name_.clear();
     code_.clear();
     if (target_) {
-        const auto name = target_->swatch ? state_.swatchName(*target_->swatch)
-                                          : target_->name.value_or(std::string());
+        const auto nearest =
+            target_->swatch ? ColorNames::shared().name(target_->color) : std::string();
+        const auto name = target_->name.value_or(nearest);
         name_ = oneLine(name);
         code_ = fromUtf8(preferences.format.value().string(target_->color, name,
                                                            preferences.formatOptions.value()));

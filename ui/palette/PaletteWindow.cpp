@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
+#include <QDrag>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QVBoxLayout>
@@ -142,7 +143,10 @@ void PaletteWindow::syncPanels() {
     parts.toolBar->setVisible(!narrow);
     parts.foot->setCompact(narrow);
     parts.seedRow->setVisible(state_.mode.value() != HarmonyMode::paletteBuilder);
+    const bool barHasFocus = parts.pictureBar->isAncestorOf(QApplication::focusWidget());
     parts.pictureBar->setVisible(state_.isPictureWindowOpen && state_.imageSource.value().picture);
+    if (barHasFocus && parts.pictureBar->isHidden())
+        parts.body->main()->setFocus(Qt::PopupFocusReason);
     parts.body->setDisplay(display());
 }
 
@@ -248,6 +252,8 @@ bool PaletteWindow::isOnCanvas() const {
 
 void PaletteWindow::closeNow() {
     parts_->isClosing = true;
+    // What is dragged belongs to the canvas, which goes.
+    QDrag::cancel();
     close();
 }
 

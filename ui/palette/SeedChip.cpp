@@ -147,11 +147,12 @@ void SeedChip::startDrag() {
     look.color = seed();
     look.vision = state_.vision;
     look.code = code_;
-    QDrag drag(this);
-    drag.setMimeData(mimeOf({seed(), std::nullopt, DragOfSeed{}}, code_).release());
-    drag.setPixmap(ui_.painter.card(look, QSize(96, 72), false, devicePixelRatioF()));
-    drag.setHotSpot({30, 30});
-    drag.exec(Qt::CopyAction, Qt::CopyAction);
+    // On the heap: a window that is closed in the middle takes it along.
+    auto* drag = new QDrag(this);
+    drag->setMimeData(mimeOf({seed(), std::nullopt, DragOfSeed{}}, code_).release());
+    drag->setPixmap(ui_.painter.card(look, QSize(96, 72), false, devicePixelRatioF()));
+    drag->setHotSpot({30, 30});
+    drag->exec(Qt::CopyAction, Qt::CopyAction);
 }
 
 void SeedChip::setDropTarget(bool isOne) {

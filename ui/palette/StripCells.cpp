@@ -279,11 +279,12 @@ void StripCells::startDrag(std::size_t at) {
     look.vision = state_.vision;
     look.name = item.name;
     look.code = item.value;
-    QDrag drag(this);
-    drag.setMimeData(mimeOf(dragged, item.value).release());
-    drag.setPixmap(ui_.painter.card(look, QSize(96, 72), false, devicePixelRatioF()));
-    drag.setHotSpot({30, 30});
-    drag.exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
+    // On the heap: a window that is closed in the middle takes it along.
+    auto* drag = new QDrag(this);
+    drag->setMimeData(mimeOf(dragged, item.value).release());
+    drag->setPixmap(ui_.painter.card(look, QSize(96, 72), false, devicePixelRatioF()));
+    drag->setHotSpot({30, 30});
+    drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
 }
 
 void StripCells::wheelEvent(QWheelEvent* event) {

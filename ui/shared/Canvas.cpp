@@ -149,6 +149,7 @@ int Canvas::neighbour(int from, Qt::Key key) const {
 
 bool Canvas::event(QEvent* event) {
     if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::StyleChange) relayout();
+    if (event->type() == QEvent::MouseButtonPress) useKeyboard(false);
     return QWidget::event(event);
 }
 

@@ -107,6 +107,8 @@ QStringList families(Face face) {
 
 struct Theme::Subscriptions {
     std::vector<QPropertyNotifier> all;
+    /// Made once for as long as nothing changes: a copy of a font shares what was found of its face.
+    QHash<TextStyle, QFont> fonts;
 };
 
 Theme::Theme(const Preferences& preferences, const DesktopSettings& desktop)
@@ -115,6 +117,7 @@ Theme::Theme(const Preferences& preferences, const DesktopSettings& desktop)
     const auto follow = [this](const auto& property) {
         subscriptions_->all.emplace_back(property, [this] {
             icons_.clear();
+            subscriptions_->fonts.clear();
             version_ = version_ + 1;
         });
     };
@@ -154,6 +157,8 @@ QColor Theme::color(Token token) const {
 }
 
 QFont Theme::font(TextStyle style) const {
+    auto& made = subscriptions_->fonts;
+    if (const auto found = made.constFind(style); found != made.constEnd()) return *found;
     const auto& row = rowOf(style);
     QFont font;
     font.setFamilies(families(row.face));
@@ -161,6 +166,7 @@ QFont Theme::font(TextStyle style) const {
     font.setWeight(row.weight);
     // Ligatures of a mono face would join the hyphens of "--name".
     if (row.face == Face::mono) font.setStyleStrategy(QFont::PreferNoShaping);
+    made.insert(style, font);
     return font;
 }
 

@@ -214,6 +214,7 @@ int TintraStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
                            QStyleHintReturn* data) const {
     switch (hint) {
     case SH_EtchDisabledText:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
         return 0;
     case SH_MenuBar_AltKeyNavigation:
         return 1;
