@@ -27,12 +27,12 @@ constexpr auto kInterface = "org.freedesktop.Application";
 class OneApplication : public testing::Test {
 protected:
     /// What a later process, which the main loop does not wait for, makes of these.
-    Standing later(const Files& files, const Activation& activation) {
+    Standing later(const ApplicationService::Wish& wish, const Activation& activation) {
         std::atomic<bool> done = false;
         Standing standing{};
         std::jthread other([&] {
             ApplicationService service(kName, second_);
-            standing = service.claim(files, activation);
+            standing = service.claim(wish, activation);
             done = true;
             QMetaObject::invokeMethod(qApp, [] {}); // wakes the loop
         });
@@ -68,15 +68,17 @@ protected:
 
 TEST_F(OneApplication, ALaterProcessHandsOverAndANewOneFollowsTheOld) {
     std::optional<ApplicationService> service(std::in_place, kName, first_);
-    ASSERT_EQ(service->claim({"/own"}, {}), Standing::running);
+    ASSERT_EQ(service->claim({{"/own"}, {}}, {}), Standing::running);
     service->serve(noting());
-    EXPECT_EQ(later({"/tmp/ä b/100%.gpl", "/tmp/#1?.png"}, {"id_TIME7", ""}), Standing::handedOver);
+    EXPECT_EQ(later({{"/tmp/ä b/100%.gpl", "/tmp/#1?.png"}, {}}, {"id_TIME7", ""}),
+              Standing::handedOver);
     EXPECT_EQ(later({}, {"", "token"}), Standing::handedOver);
+    EXPECT_EQ(later({{}, "known"}, {}), Standing::handedOver);
     EXPECT_EQ(asked_, (std::vector<std::string>{"open /tmp/ä b/100%.gpl /tmp/#1?.png by id_TIME7,",
-                                                "activate by ,token"}));
+                                                "activate by ,token", "known"}));
     service.reset();
-    EXPECT_EQ(later({"/next"}, {}), Standing::running);
-    EXPECT_EQ(asked_.size(), 2U);
+    EXPECT_EQ(later({{"/next"}, {}}, {}), Standing::running);
+    EXPECT_EQ(asked_.size(), 3U);
 }
 
 TEST_F(OneApplication, RequestsOfLaunchersAreAnswered) {
@@ -117,7 +119,7 @@ TEST_F(OneApplication, RequestsOfLaunchersAreAnswered) {
 TEST_F(OneApplication, WhoGetsNoAnswerIsNotASecondApplication) {
     // Another program with the name: it knows none of the calls.
     ASSERT_TRUE(first_.registerService(kName));
-    EXPECT_EQ(later({"/a"}, {}), Standing::unanswered);
+    EXPECT_EQ(later({{"/a"}, {}}, {}), Standing::unanswered);
 }
 
 TEST(EndingSignals, AreToldOnTheLoopUnlessTheProcessWasToIgnoreThem) {

@@ -1,4 +1,5 @@
 #include "ui/shared/Canvas.h"
+#include "ui/shared/PanelAccessibility.h"
 
 #include <gtest/gtest.h>
 
@@ -15,6 +16,7 @@ int main(int argc, char** argv) {
     // What a key press or a drop brings is seen at once.
     QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
     QAccessible::setActive(true);
+    tintra::installPanelAccessibility();
     tintra::installCanvasAccessibility();
     return RUN_ALL_TESTS();
 }

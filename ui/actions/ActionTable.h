@@ -20,6 +20,7 @@ enum class ActionId {
     newPalette,
     newPaletteHere,
     open,
+    openRecent,
     save,
     saveAs,
     duplicatePalette,

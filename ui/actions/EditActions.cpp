@@ -103,7 +103,11 @@ const ActionRow kRows[] = {
      .text = "Type or Paste Values…",
      .keys = "Ctrl+Shift+V",
      .menu = MenuId::edit,
-     .perform = [](const Context& c) { c.window->showPasteSheet(); }},
+     .perform =
+         [](const Context& c) {
+             unfold(c);
+             c.window->showPasteSheet();
+         }},
     {.value = ActionId::clear,
      .raw = "clear",
      .text = "Clear",

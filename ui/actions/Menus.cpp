@@ -19,6 +19,7 @@ constexpr std::nullopt_t kLine = std::nullopt;
 constexpr MenuRow kFile[] = {newPalette,
                              newPaletteHere,
                              open,
+                             openRecent,
                              kLine,
                              save,
                              saveAs,
@@ -47,6 +48,10 @@ constexpr MenuRow kView[] = {columns, tiles,      kLine, colourEditor, picturePa
 constexpr MenuRow kWindow[] = {openWindows};
 constexpr MenuRow kHelp[] = {shortcuts, recentNotices, kLine, acknowledgements, about};
 constexpr MenuRow kCanvas[] = {pasteColours, typeOrPaste, addBlankSwatch, kLine, openPicture};
+
+constexpr MenuRow kStrip[] = {copy,           copyAs, kLine,        toggleBench,
+                              sendToContrast, kLine,  pasteColours, kLine,
+                              removeSwatch,   kLine,  collapse};
 
 struct MenuOfBar {
     MenuId id;
@@ -137,6 +142,10 @@ void fillSwatchMenu(QMenu& menu, const ActionContext& context) {
 
 void fillCanvasMenu(QMenu& menu, const ActionContext& context) {
     addRows(menu, kCanvas, context);
+}
+
+void fillStripMenu(QMenu& menu, const ActionContext& context) {
+    addRows(menu, kStrip, context);
 }
 
 std::vector<ActionId> actionsOf(MenuId id) {

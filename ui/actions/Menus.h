@@ -27,6 +27,9 @@ void fillSwatchMenu(QMenu& menu, const ActionContext& context);
 /// The context menu of an empty place of a canvas.
 void fillCanvasMenu(QMenu& menu, const ActionContext& context);
 
+/// The context menu of a collapsed window: of the colour that has the focus, and of the window.
+void fillStripMenu(QMenu& menu, const ActionContext& context);
+
 /// Every row of the menu of the bar, in order; for tests and for the shortcuts window.
 std::vector<ActionId> actionsOf(MenuId id);
 /// "File", "Edit" and so on.

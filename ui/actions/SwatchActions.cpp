@@ -85,7 +85,11 @@ const ActionRow kRows[] = {
      .keys = "F2",
      .menu = MenuId::swatch,
      .isEnabled = hasSwatch,
-     .perform = [](const Context& c) { c.window->beginRename(); }},
+     .perform =
+         [](const Context& c) {
+             unfold(c);
+             c.window->beginRename();
+         }},
     {.value = ActionId::editColour,
      .raw = "editColour",
      .text = "Edit Colour",
@@ -95,6 +99,7 @@ const ActionRow kRows[] = {
      .isEnabled = hasSwatch,
      .perform =
          [](const Context& c) {
+             unfold(c);
              withSwatch(c, [](AppState& of, std::size_t at) { of.editSwatch(at); });
          }},
     {.value = ActionId::toggleBench,

@@ -27,8 +27,10 @@ public:
         return QAccessibleWidget::interface_cast(type);
     }
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Value ? control()->spokenValue()
-                                          : QAccessibleWidget::text(kind);
+        // The bus carries values of numbers only: a plane's, and units, are told by the
+        // description.
+        const bool isValue = kind == QAccessible::Value || kind == QAccessible::Description;
+        return isValue ? control()->spokenValue() : QAccessibleWidget::text(kind);
     }
     QVariant currentValue() const override { return scale().value; }
     void setCurrentValue(const QVariant& value) override { control()->choose(value.toDouble()); }
@@ -76,9 +78,13 @@ void PickerControl::paintThumb(QPainter& painter, QPointF centre, const QColor& 
 
 void PickerControl::announce() {
     if (!QAccessible::isActive()) return;
-    const auto one = scale();
-    QAccessibleValueChangeEvent event(this, one ? QVariant(one->value) : QVariant(spokenValue()));
-    QAccessible::updateAccessibility(&event);
+    if (const auto one = scale()) {
+        QAccessibleValueChangeEvent event(this, one->value);
+        QAccessible::updateAccessibility(&event);
+    } else {
+        QAccessibleEvent event(this, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void PickerControl::mousePressEvent(QMouseEvent* event) {

@@ -78,7 +78,7 @@ std::vector<CanvasItem> RowList::layoutItems(QSizeF size) const {
         item.rect = QRectF(places[i] * (wide + kGap), top, wide, high);
         item.index = i;
         if (rows_[i].isHeading) {
-            heading = rows_[i].text;
+            heading = item.name = rows_[i].text;
             // The space before a heading that begins a column is not needed.
             if (top == 0) item.rect.setHeight(theme().scaled(kHeading));
         } else {

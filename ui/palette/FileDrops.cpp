@@ -63,6 +63,14 @@ bool asksToAdd(const QDropEvent& event) {
     return event.modifiers().testFlag(Qt::ShiftModifier);
 }
 
+bool refusesColour(const AppState& state, const QDropEvent& event) {
+    const auto& data = *event.mimeData();
+    // Nothing else is taken out of a drag before it is dropped.
+    if (!data.hasFormat(QString::fromLatin1(kColourMimeType)) && !data.hasColor()) return false;
+    const auto colour = dropped(data).colour;
+    return colour && state.refusal(*colour, asksToMove(event));
+}
+
 bool receiveColour(Ui& ui, AppState& state, const Drag& drag, std::size_t at, bool moving) {
     if (!state.receive(drag, at, moving)) return false;
     const auto* swatch = std::get_if<DragOfSwatch>(&drag.source);

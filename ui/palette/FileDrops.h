@@ -17,6 +17,9 @@ class AppState;
 bool asksToMove(const QDropEvent& event);
 bool asksToAdd(const QDropEvent& event);
 
+/// A single colour is dragged that the palette would not take.
+bool refusesColour(const AppState& state, const QDropEvent& event);
+
 /// A dropped colour before the swatch at `at`; one that moves leaves the palette it came from.
 /// Answers whether it was taken; a refusal is shown.
 bool receiveColour(Ui& ui, AppState& state, const Drag& drag, std::size_t at, bool moving);

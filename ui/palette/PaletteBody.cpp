@@ -143,15 +143,16 @@ void PaletteBody::layOutMain(QRect room) {
     const bool goesOn = focus != shown && dynamic_cast<const Canvas*>(focus) &&
                         (focus == swatches_ || focus == bands_ || focus == empty_);
     swatches_->setRows(state_.isPictureWindowOpen.value());
+    QWidget* const places[] = {swatchScroll_, bandScroll_, empty_};
+    auto* const place = shown == empty_ ? places[2] : places[shown == bands_ ? 1 : 0];
     // Beside a picture an empty palette only says what will stand there.
-    swatchScroll_->setVisible(shown == swatches_ && !state_.swatches().empty());
-    bandScroll_->setVisible(shown == bands_);
-    empty_->setVisible(shown == empty_);
-    if (shown == empty_)
-        empty_->setGeometry(room);
-    else
-        (shown == bands_ ? bandScroll_ : swatchScroll_)->setGeometry(room);
+    place->setVisible(shown != swatches_ || !state_.swatches().empty());
+    place->setGeometry(room);
+    // The keyboard goes on before what had it is hidden: it would pass to a tool on the way.
+    if (goesOn && shown == empty_) empty_->setFocused(empty_->find(EmptyState::action, 0));
     if (goesOn) shown->setFocus(Qt::OtherFocusReason);
+    for (auto* const other : places)
+        if (other != place) other->hide();
 }
 
 void PaletteBody::resizeEvent(QResizeEvent*) {

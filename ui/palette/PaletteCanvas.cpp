@@ -55,7 +55,7 @@ void PaletteCanvas::subscribe() {
     subscriptions_.add(preferences.formatOptions, repaint);
     subscriptions_.add(preferences.swatchBackdrop, repaint);
     subscriptions_.add(preferences.backdropColour, repaint);
-    subscriptions_.add(preferences.rgbProfile, repaint);
+    subscriptions_.add(preferences.profilesVersion, repaint);
     subscriptions_.add(preferences.showsWatermark, repaint);
     subscriptions_.add(state_.copyTick, [this] { flashCode(); });
     subscriptions_.add(state_.renamingSwatch, [this] {

@@ -95,6 +95,7 @@ private:
     std::size_t insertionAt(QPointF place) const;
     QRectF insertionBar() const;
     void setInsertion(std::optional<std::size_t> at);
+    void scrollOn();
     void flashCode();
 
     Ui& ui_;
@@ -109,7 +110,9 @@ private:
     std::optional<std::size_t> insertion_; ///< where a drop would go
     std::optional<Drag> offered_;          ///< what is dragged over the canvas
     std::optional<std::size_t> edited_;    ///< whose colour the editor has
-    std::optional<std::size_t> flashing_;  ///< whose code was just copied
+    QPointF draggedAt_;
+    std::unique_ptr<DelayedTask> scrolling_; ///< while the drag rests near an edge
+    std::optional<std::size_t> flashing_;    ///< whose code was just copied
     std::unique_ptr<DelayedTask> flash_;
     QPointer<QLineEdit> field_;
     std::size_t renamed_ = 0;

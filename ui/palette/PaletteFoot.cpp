@@ -8,6 +8,7 @@
 #include "ui/actions/FormatMenus.h"
 #include "ui/palette/DragHandle.h"
 #include "ui/palette/PaletteToolBar.h"
+#include "ui/shared/ColourDrag.h"
 #include "ui/shared/ColourMime.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Figures.h"
@@ -106,7 +107,7 @@ void PaletteFoot::subscribe() {
     subscriptions_.add(state_.isPictureWindowOpen, again);
     subscriptions_.add(preferences.format, again);
     subscriptions_.add(preferences.formatOptions, again);
-    subscriptions_.add(preferences.rgbProfile, again);
+    subscriptions_.add(preferences.profilesVersion, again);
     subscriptions_.add(ui_.theme.version(), again);
 }
 
@@ -266,11 +267,7 @@ void PaletteFoot::dragColour() {
     look.vision = state_.vision;
     look.name = name_;
     look.code = code_;
-    auto* drag = new QDrag(chip_);
-    drag->setMimeData(mimeOf(dragged, code_).release());
-    drag->setPixmap(ui_.painter.card(look, {128, 96}, false, devicePixelRatioF()));
-    drag->setHotSpot({30, 30});
-    drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
+    tintra::dragColour(*chip_, ui_.painter, dragged, look, kDragCard);
 }
 
 void PaletteFoot::dragPalette() {

@@ -6,6 +6,7 @@
 #include "ui/palette/BandsCanvas.h"
 #include "ui/palette/EmptyState.h"
 #include "ui/palette/PaletteWindowParts.h"
+#include "ui/palette/StripCells.h"
 #include "ui/program/Windows.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
@@ -33,13 +34,6 @@ QWidget* firstStop(QWidget* region) {
     for (auto* next = region->nextInFocusChain(); next != region; next = next->nextInFocusChain())
         if (region->isAncestorOf(next) && takes(next)) return next;
     return nullptr;
-}
-
-void popUp(QWidget* parent, QPoint at, const std::function<void(QMenu&)>& fill) {
-    auto* menu = new QMenu(parent);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    fill(*menu);
-    menu->popup(at);
 }
 
 } // namespace
@@ -94,15 +88,20 @@ void PaletteWindow::assemble() {
     connectBody();
 }
 
+void PaletteWindow::popUp(QPoint at, void (*fill)(QMenu&, const ActionContext&)) {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    fill(*menu, context());
+    menu->popup(at);
+}
+
 void PaletteWindow::connectBody() {
     auto& body = *parts_->body;
     body.targetChanged = [this] { parts_->foot->sync(); };
     body.empty().typeOrPaste = [this] { showPasteSheet(); };
     body.bands().fillMenu = [this](QMenu& menu) { fillSwatchMenu(menu, context()); };
     body.swatches().contextMenu = [this](QPoint at, bool onSwatch) {
-        popUp(this, at, [this, onSwatch](QMenu& menu) {
-            (onSwatch ? fillSwatchMenu : fillCanvasMenu)(menu, context());
-        });
+        popUp(at, onSwatch ? fillSwatchMenu : fillCanvasMenu);
     };
     body.swatches().moving = [this](auto move) { parts_->foot->setMove(move); };
 }
@@ -163,7 +162,11 @@ NoticeBar& PaletteWindow::notices() const {
 }
 
 std::optional<PaletteWindow::Target> PaletteWindow::target() const {
-    if (state_.mode.value() != HarmonyMode::paletteBuilder) return parts_->body->bands().target();
+    if (state_.mode.value() != HarmonyMode::paletteBuilder) {
+        if (!parts_->isFolded) return parts_->body->bands().target();
+        const auto colour = parts_->strip->cells().current();
+        return colour ? std::optional(Target{*colour, std::nullopt, std::nullopt}) : std::nullopt;
+    }
     const auto at = state_.selectedSwatch.value();
     if (!at || *at >= state_.swatches().size()) return std::nullopt;
     return Target{parts_->body->swatches().colorAt(*at), state_.swatches()[*at].name, *at};
@@ -209,6 +212,8 @@ void PaletteWindow::toggleMenuBar() {
 }
 
 void PaletteWindow::openMenuBar() {
+    // A strip has no room for a bar.
+    if (parts_->isFolded) return showContextMenu();
     auto* bar = parts_->menuBar;
     bar->show();
     bar->setFocus(Qt::MenuBarFocusReason);

@@ -76,6 +76,7 @@ private:
     void syncPanels();
     void syncCollapsed();
     void syncOnTop();
+    void popUp(QPoint at, void (*fill)(QMenu&, const ActionContext&));
     /// The keyboard is where single letters are commands.
     bool isOnCanvas() const;
     std::vector<QWidget*> regions() const;

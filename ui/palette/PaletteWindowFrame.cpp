@@ -4,6 +4,7 @@
 #include "state/Models.h"
 #include "ui/palette/FileDrops.h"
 #include "ui/palette/PaletteWindowParts.h"
+#include "ui/palette/StripCells.h"
 #include "ui/shared/ColourMime.h"
 
 #include <QDropEvent>
@@ -100,14 +101,20 @@ void PaletteWindow::syncCollapsed() {
     const bool folds = state_.isCollapsed;
     if (folds == parts.isFolded) return;
     parts.isPlacing = true;
-    if (folds && !parts.strip) parts.strip = new CollapsedStrip(ui_, state_, this);
+    if (folds && !parts.strip) {
+        parts.strip = new CollapsedStrip(ui_, state_, this);
+        parts.strip->cells().contextMenu = [this](QPoint at) { popUp(at, fillStripMenu); };
+    }
     const bool shows = isVisible();
+    // A window that gets or loses its frame is told nothing of where it is unless it is moved.
+    const auto corner = pos();
     parts.isFolded = folds;
     parts.unfolded->setVisible(!folds);
     parts.strip->setVisible(folds);
     setWindowFlag(Qt::FramelessWindowHint, folds);
     if (folds) {
         resizeStrip();
+        move(corner);
     } else {
         setMinimumSize(240, 180);
         restoreFrame();
@@ -145,7 +152,12 @@ void PaletteWindow::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void PaletteWindow::dragMoveEvent(QDragMoveEvent* event) {
-    event->acceptProposedAction();
+    const bool refused = refusesColour(state_, *event);
+    state_.fileIsOver = !refused;
+    if (!refused) return event->acceptProposedAction();
+    // The cursor says no, but the drop is let come, to be told why.
+    event->setDropAction(Qt::IgnoreAction);
+    event->accept();
 }
 
 void PaletteWindow::dragLeaveEvent(QDragLeaveEvent*) {

@@ -95,7 +95,7 @@ void SeedRow::subscribe() {
     subscriptions_.add(preferences.formatOptions, again);
     subscriptions_.add(preferences.swatchBackdrop, again);
     subscriptions_.add(preferences.backdropColour, again);
-    subscriptions_.add(preferences.rgbProfile, again);
+    subscriptions_.add(preferences.profilesVersion, again);
     subscriptions_.add(ui_.theme.version(), again);
 }
 

@@ -8,6 +8,7 @@
 #include "ui/palette/PaletteWindow.h"
 #include "ui/settings/SettingsWindow.h"
 #include "ui/shared/Canvas.h"
+#include "ui/shared/PanelAccessibility.h"
 #include "ui/shared/TintraStyle.h"
 
 #include <QApplication>
@@ -50,6 +51,7 @@ Application::Application(Surroundings surroundings)
                                                    *this,   notices_},
       requests_(ui_),
       sessionEnd_({.keep = [this] { models_.keep(); }, .leave = [this] { leave(); }}) {
+    installPanelAccessibility();
     installCanvasAccessibility();
     dialogues_.setTheme(theme_);
     dialogues_.windowOf = [this](const ToastPlace& place) { return window(place); };

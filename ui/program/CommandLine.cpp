@@ -14,8 +14,9 @@ constexpr const char* kHelp = R"(Usage: tintra-desktop [OPTION]... [FILE]...
 Opens palettes (ASE, ACO, GPL, CLR, CSS, SCSS, Sass, Less) and pictures, each in a window. Where
 Tintra runs already, the files open there. Without files it opens as it was when it was left.
 
-  -h, --help     say this and leave
-  -v, --version  say the version and leave
+  -n, --new-palette  open an empty palette besides
+  -h, --help         say this and leave
+  -v, --version      say the version and leave
 
 The command “tintra” does the same work without windows.
 )";
@@ -37,6 +38,9 @@ CommandLine CommandLine::of(const QStringList& arguments) {
     for (const auto& argument : arguments.mid(1)) {
         if (!onlyFiles && argument == QLatin1String("--"))
             onlyFiles = true;
+        else if (!onlyFiles &&
+                 (argument == QLatin1String("--new-palette") || argument == QLatin1String("-n")))
+            line.newPalette = true;
         else if (!onlyFiles && argument.size() > 1 && argument.startsWith(u'-'))
             line.refusal = "there is no option “" + toUtf8(argument) + "”";
         else if (!argument.isEmpty())

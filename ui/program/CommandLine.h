@@ -12,7 +12,8 @@ namespace tintra {
 /// What the program was called with.
 struct CommandLine {
     std::vector<std::filesystem::path> files; ///< absolute
-    std::optional<std::string> refusal;       ///< a sentence, for options that there are not
+    bool newPalette = false;
+    std::optional<std::string> refusal; ///< a sentence, for options that there are not
 
     /// `arguments`: without those that the toolkit takes; the program's name first.
     static CommandLine of(const QStringList& arguments);

@@ -42,7 +42,7 @@ ApplicationRequests DesktopRequests::forService() {
             },
         .perform =
             [this](std::string_view action, const Activation& activation) {
-                if (action != "new-palette") return false;
+                if (action != kNewPalette) return false;
                 use(activation);
                 openNew();
                 return true;

@@ -22,6 +22,9 @@ public:
     /// So many windows at once is what somebody may have wanted; more is a slip of the hand.
     static constexpr std::size_t kMostFiles = 24;
 
+    /// The action of that name for launchers.
+    static constexpr const char* kNewPalette = "new-palette";
+
     explicit DesktopRequests(Ui& ui) : ui_(ui) {}
 
     /// For launchers and later processes; they hold while this lives.

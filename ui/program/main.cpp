@@ -38,7 +38,8 @@ int main(int argc, char** argv) {
     const auto line = CommandLine::of(QApplication::arguments());
     if (line.refusal) return refuse(*line.refusal + "\nTry “tintra-desktop --help”.", kWrongUsage);
     ApplicationService service(id);
-    switch (service.claim(line.files, activation)) {
+    switch (service.claim({line.files, line.newPalette ? DesktopRequests::kNewPalette : ""},
+                          activation)) {
     case ApplicationService::Standing::handedOver:
         return 0;
     case ApplicationService::Standing::unanswered:
@@ -50,5 +51,6 @@ int main(int argc, char** argv) {
     Application application;
     service.serve(application.requests().forService());
     application.start(line.files);
+    if (line.newPalette) application.requests().openNew();
     return QApplication::exec();
 }

@@ -79,7 +79,9 @@ void FormatList::addFamily(std::vector<CanvasItem>& items, std::size_t family, q
         const auto place = theme().scaled(kStarPlace);
         CanvasItem mark{
             .rect = QRectF(width - 1 - place, y, place, rowHeight), .kind = star, .index = index};
+        mark.role = QAccessible::CheckBox;
         mark.name = worded("Favourite");
+        mark.description = item.name;
         mark.selected = item.selected;
         mark.checked = starred;
         items.push_back(mark);
@@ -157,13 +159,16 @@ void FormatList::focusMoved(int item) {
 void FormatList::mousePressEvent(QMouseEvent* event) {
     const auto at = itemAt(event->position());
     if (at < 0 || event->button() != Qt::LeftButton) return;
-    const auto item = items()[static_cast<std::size_t>(at)];
-    if (item.kind == heading) return;
-    setFocused(find(format, item.index));
-    if (item.kind == star)
-        toggleFavourite(formatOf(item));
+    if (items()[static_cast<std::size_t>(at)].kind != heading) activate(at);
+}
+
+void FormatList::activate(int item) {
+    const auto chosen = items()[static_cast<std::size_t>(item)];
+    setFocused(find(format, chosen.index));
+    if (chosen.kind == star)
+        toggleFavourite(formatOf(chosen));
     else
-        preferences_.format = formatOf(item);
+        preferences_.format = formatOf(chosen);
 }
 
 void FormatList::keyPressEvent(QKeyEvent* event) {

@@ -2,12 +2,14 @@
 
 #include "ui/shared/Theme.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tintra {
 namespace {
@@ -56,13 +58,66 @@ void Canvas::setFocused(int item) {
     repaintItem(focused_);
     focused_ = item;
     repaintItem(focused_);
-    if (item >= 0 && hasFocus()) {
-        QAccessibleEvent event(this, QAccessible::Focus);
+    if (hasFocus()) announce(QAccessible::Focus, item);
+    focusMoved(item);
+    if (changed) changed();
+}
+
+void Canvas::takeFocus(int item) {
+    setFocus(Qt::OtherFocusReason);
+    setFocused(item);
+}
+
+void Canvas::press(int item) {
+    if (item < 0 || item >= static_cast<int>(items_.size()) || !canPress(item)) return;
+    takeFocus(item);
+    activate(item);
+}
+
+bool Canvas::canPress(int item) const {
+    const auto& one = items_[static_cast<std::size_t>(item)];
+    return isEnabled() && isWalkedTo(one) && activates(one);
+}
+
+bool Canvas::activates(const CanvasItem&) const {
+    return true;
+}
+
+void Canvas::activate(int) {
+    // As the key itself: what the canvas leaves goes on to its window.
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(this, &enter);
+}
+
+void Canvas::announce(QAccessible::Event what, int item) {
+    if (item < 0 || !QAccessible::isActive()) return;
+    QAccessibleEvent event(this, what);
+    event.setChild(item);
+    QAccessible::updateAccessibility(&event);
+}
+
+void Canvas::announceChanges(const std::vector<CanvasItem>& before) {
+    if (!QAccessible::isActive()) return;
+    if (before.size() != items_.size()) {
+        QAccessibleEvent event(this, QAccessible::ObjectReorder);
+        QAccessible::updateAccessibility(&event);
+        return;
+    }
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+        const auto &was = before[i], &is = items_[i];
+        const auto item = static_cast<int>(i);
+        if (was.name != is.name) announce(QAccessible::NameChanged, item);
+        if (was.value != is.value || was.description != is.description)
+            announce(QAccessible::DescriptionChanged, item);
+        if (was.selected != is.selected)
+            announce(is.selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove, item);
+        if (was.checked == is.checked) continue;
+        QAccessible::State which;
+        which.checked = true;
+        QAccessibleStateChangeEvent event(this, which);
         event.setChild(item);
         QAccessible::updateAccessibility(&event);
     }
-    focusMoved(item);
-    if (changed) changed();
 }
 
 void Canvas::markSelected(int item) {
@@ -71,10 +126,8 @@ void Canvas::markSelected(int item) {
         if (items_[i].selected == selected) continue;
         items_[i].selected = selected;
         repaintItem(static_cast<int>(i));
-        if (!selected) continue;
-        QAccessibleEvent event(this, QAccessible::Selection);
-        event.setChild(item);
-        QAccessible::updateAccessibility(&event);
+        announce(selected ? QAccessible::Selection : QAccessible::SelectionRemove,
+                 static_cast<int>(i));
     }
 }
 
@@ -100,14 +153,10 @@ void Canvas::layOut() {
     const auto before = focused_ >= 0 && focused_ < static_cast<int>(items_.size())
                             ? std::optional(items_[static_cast<std::size_t>(focused_)])
                             : std::nullopt;
-    const auto count = items_.size();
-    items_ = layoutItems(QSizeF(size()));
+    const auto old = std::exchange(items_, layoutItems(QSizeF(size())));
     focused_ = before ? find(before->kind, before->index) : -1;
     hovered_ = underMouse() ? itemAt(mapFromGlobal(QCursor::pos())) : -1;
-    if (count != items_.size() && QAccessible::isActive()) {
-        QAccessibleEvent event(this, QAccessible::ObjectReorder);
-        QAccessible::updateAccessibility(&event);
-    }
+    announceChanges(old);
     if (changed) changed();
 }
 
@@ -134,6 +183,8 @@ int Canvas::neighbour(int from, Qt::Key key) const {
     if (walked.empty()) return -1;
     if (key == Qt::Key_Home || from < 0) return walked.front();
     if (key == Qt::Key_End) return walked.back();
+    if (key == Qt::Key_PageUp || key == Qt::Key_PageDown)
+        return pageNeighbour(from, key == Qt::Key_PageDown);
     int best = from;
     std::optional<qreal> least;
     for (const auto i : walked) {
@@ -143,6 +194,25 @@ int Canvas::neighbour(int from, Qt::Key key) const {
             least = far;
             best = i;
         }
+    }
+    return best;
+}
+
+/// The item that lies nearest to a page further up or down, in the same column before others; where
+/// there is less than a page to go, the last one on the way.
+int Canvas::pageNeighbour(int from, bool forward) const {
+    const auto& here = items_[static_cast<std::size_t>(from)].rect;
+    const auto page = std::max<qreal>(visibleRegion().boundingRect().height(), here.height());
+    int best = from;
+    std::optional<qreal> least;
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+        const auto step = items_[i].rect.center() - here.center();
+        const auto along = forward ? step.y() : -step.y();
+        if (along < 1 || !isWalkedTo(items_[i])) continue;
+        const auto far = std::abs(along - page) + 2 * std::abs(step.x());
+        if (least && far >= *least) continue;
+        least = far;
+        best = static_cast<int>(i);
     }
     return best;
 }
@@ -233,6 +303,11 @@ void Canvas::focusInEvent(QFocusEvent* event) {
     if (focused_ < 0 && focusByKeyboard_) setFocused(neighbour(-1, Qt::Key_Home));
     repaintItem(focused_);
     QWidget::focusInEvent(event);
+    // Qt tells of the canvas after this; what has the focus in it is the last to be told of.
+    const auto tell = [this] {
+        if (hasFocus()) announce(QAccessible::Focus, focused_);
+    };
+    if (QAccessible::isActive()) QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void Canvas::focusOutEvent(QFocusEvent* event) {

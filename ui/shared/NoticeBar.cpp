@@ -71,6 +71,7 @@ void NoticeBar::present(const QString& text, double seconds, std::optional<Toast
     setAccessibleName(text_);
     setCursor(action_ ? Qt::PointingHandCursor : Qt::ArrowCursor);
     place();
+    const bool replaces = isVisible();
     show();
     raise();
     update();
@@ -78,8 +79,12 @@ void NoticeBar::present(const QString& text, double seconds, std::optional<Toast
         clock_.reset();
     else
         startClock();
-    QAccessibleEvent event(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+    if (!replaces) return;
+    // The bus knows no alerts: readers tell of what comes to be shown.
+    QAccessibleEvent appears(this, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&appears);
 }
 
 void NoticeBar::dismiss() {

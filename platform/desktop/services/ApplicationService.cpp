@@ -130,7 +130,7 @@ ApplicationService::~ApplicationService() {
     bus_.unregisterObject(pathOf(name_));
 }
 
-ApplicationService::Standing ApplicationService::claim(const Files& files,
+ApplicationService::Standing ApplicationService::claim(const Wish& wish,
                                                        const Activation& activation) {
     if (!bus_.isConnected()) return Standing::running;
     // Before the name, so that nobody finds the name without the object.
@@ -141,19 +141,23 @@ ApplicationService::Standing ApplicationService::claim(const Files& files,
         // A bus that gives no name at all is as good as none.
         if (!answer.isValid() || answer.value() == QDBusConnectionInterface::ServiceRegistered)
             return Standing::running;
-        if (handOver(files, activation)) return Standing::handedOver;
+        if (handOver(wish, activation)) return Standing::handedOver;
     }
     return Standing::unanswered;
 }
 
-bool ApplicationService::handOver(const Files& files, const Activation& activation) {
-    auto call = QDBusMessage::createMethodCall(name_, pathOf(name_), kInterface,
-                                               files.empty() ? QStringLiteral("Activate")
-                                                             : QStringLiteral("Open"));
-    call.setAutoStartService(false);
-    if (!files.empty()) call << urisOf(files);
-    call << platformData(activation);
-    return bus_.call(call, QDBus::Block, kPatience).type() == QDBusMessage::ReplyMessage;
+bool ApplicationService::handOver(const Wish& wish, const Activation& activation) {
+    const auto asks = [&](const char* member, QVariantList arguments) {
+        auto call = QDBusMessage::createMethodCall(name_, pathOf(name_), kInterface,
+                                                   QString::fromLatin1(member));
+        call.setAutoStartService(false);
+        call.setArguments(std::move(arguments) << platformData(activation));
+        return bus_.call(call, QDBus::Block, kPatience).type() == QDBusMessage::ReplyMessage;
+    };
+    if (wish.files.empty() && wish.action.empty()) return asks("Activate", {});
+    return (wish.files.empty() || asks("Open", {urisOf(wish.files)})) &&
+           (wish.action.empty() ||
+            asks("ActivateAction", {QString::fromStdString(wish.action), QVariantList()}));
 }
 
 void ApplicationService::serve(ApplicationRequests requests) {

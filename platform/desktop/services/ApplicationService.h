@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -30,7 +31,7 @@ struct ApplicationRequests {
 };
 
 /// The application under its name on the session bus (org.freedesktop.Application): the first
-/// process takes the name, every later one hands its files over and leaves. Main loop.
+/// process takes the name, every later one hands its wish over and leaves. Main loop.
 class ApplicationService final {
 public:
     /// `name`: the identifier of the application, "org.tintra.Tintra".
@@ -39,14 +40,19 @@ public:
     ApplicationService(const ApplicationService&) = delete;
     ApplicationService& operator=(const ApplicationService&) = delete;
 
+    /// What a process was started for; without any, to be shown.
+    struct Wish {
+        std::vector<std::filesystem::path> files; ///< absolute names
+        std::string action;                       ///< after the files; empty for none
+    };
     enum class Standing {
         running,    ///< this process is the application, on its bus or without any
-        handedOver, ///< another process is, and has taken the files
+        handedOver, ///< another process is, and has taken the wish
         unanswered, ///< another process is, and does not answer
     };
-    /// Takes the name, or hands the files (absolute names) to the process that has it. Waits for
-    /// that process ten seconds at most.
-    Standing claim(const std::vector<std::filesystem::path>& files, const Activation& activation);
+    /// Takes the name, or hands the wish to the process that has it. Waits for that process ten
+    /// seconds a request at most.
+    Standing claim(const Wish& wish, const Activation& activation);
 
     /// Answers requests from now on; those that came since `claim` too, when the loop runs.
     void serve(ApplicationRequests requests);
@@ -54,7 +60,7 @@ public:
 private:
     class Object;
 
-    bool handOver(const std::vector<std::filesystem::path>& files, const Activation& activation);
+    bool handOver(const Wish& wish, const Activation& activation);
 
     QString name_;
     QDBusConnection bus_;

@@ -40,6 +40,8 @@ void ToolButton::setIconName(std::string_view icon) {
 
 void ToolButton::setTitle(const QString& title, const QString& key) {
     setAccessibleName(title);
+    // Otherwise the tooltip, which says the title again.
+    setAccessibleDescription(key.isEmpty() ? title : key);
     setToolTip(key.isEmpty() ? title : QStringLiteral("%1 (%2)").arg(title, key));
 }
 
