@@ -16,6 +16,7 @@
 #include <QContextMenuEvent>
 #include <QDrag>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -264,7 +265,15 @@ void PaletteWindow::closeNow() {
 
 void PaletteWindow::closeEvent(QCloseEvent* event) {
     event->setAccepted(parts_->isClosing);
-    if (!parts_->isClosing) ui_.windows.closePalette(state_.id());
+    if (parts_->isClosing) return;
+    finishTyping();
+    ui_.windows.closePalette(state_.id());
+}
+
+void PaletteWindow::finishTyping() {
+    // A field takes what was typed when it loses the keyboard.
+    if (qobject_cast<QLineEdit*>(focusWidget()))
+        parts_->body->main()->setFocus(Qt::OtherFocusReason);
 }
 
 void PaletteWindow::changeEvent(QEvent* event) {
