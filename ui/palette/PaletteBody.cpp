@@ -75,7 +75,14 @@ void PaletteBody::subscribe() {
     subscriptions_.add(state_.mode, again);
     subscriptions_.add(state_.customPalette(), again);
     subscriptions_.add(state_.isPictureWindowOpen, again);
-    subscriptions_.add(state_.editorBuffer, again);
+    subscriptions_.add(state_.editorBuffer, [this] {
+        // Every step of a slider comes here; only opening and closing moves anything.
+        const bool edits = state_.editorBuffer.value().has_value();
+        if (edits == editor_->isHidden())
+            layOut();
+        else if (targetChanged)
+            targetChanged();
+    });
     subscriptions_.add(ui_.models.preferences().pictureShare, again);
     subscriptions_.add(ui_.theme.version(), again);
     subscriptions_.add(state_.fileIsOver, [this] {

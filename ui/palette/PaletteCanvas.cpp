@@ -49,7 +49,7 @@ void PaletteCanvas::subscribe() {
     subscriptions_.add(ui_.theme.version(), layOut);
     subscriptions_.add(state_.selectedSwatch, [this] { syncSelection(); });
     subscriptions_.add(state_.vision, [this] { update(); });
-    subscriptions_.add(state_.editorBuffer, repaint);
+    subscriptions_.add(state_.editorBuffer, [this] { showEdited(); });
     subscriptions_.add(state_.imageSource, layOut);
     subscriptions_.add(preferences.format, repaint);
     subscriptions_.add(preferences.formatOptions, repaint);
@@ -71,13 +71,30 @@ void PaletteCanvas::subscribe() {
 
 PaletteCanvas::~PaletteCanvas() = default;
 
+void PaletteCanvas::showEdited() {
+    const auto show = [this](std::optional<std::size_t> at) {
+        const auto item = at ? find(swatch, *at) : -1;
+        if (item >= 0) setItem(item, itemOf(*at, items()[static_cast<std::size_t>(item)].rect));
+    };
+    const auto before = std::exchange(edited_, std::nullopt);
+    const auto& buffer = state_.editorBuffer.value();
+    const auto& all = state_.swatches();
+    const auto now = std::ranges::find_if(
+        all, [&](const auto& one) { return buffer && one.id == buffer->swatchID; });
+    if (now != all.end()) edited_ = static_cast<std::size_t>(now - all.begin());
+    if (before != edited_ && before < all.size()) show(before);
+    show(edited_);
+}
+
 void PaletteCanvas::setDisplay(PaletteDisplay display) {
+    if (display == display_) return;
     display_ = display;
     setWhole();
     relayout();
 }
 
 void PaletteCanvas::setRows(bool picturePane) {
+    if (picturePane == rows_) return;
     rows_ = picturePane;
     setWhole();
     relayout();

@@ -50,6 +50,8 @@ public:
     /// Gives the keyboard to the next (1) or the previous (-1) region.
     void focusRegion(int by);
     void showContextMenu();
+    /// What is being typed counts as typed: before the window is asked about changes.
+    void finishTyping();
     /// Closes without asking; the model is gone after this.
     void closeNow();
 

@@ -160,6 +160,11 @@ void Canvas::layOut() {
     if (changed) changed();
 }
 
+void Canvas::setItem(int item, CanvasItem now) {
+    items_[static_cast<std::size_t>(item)] = std::move(now);
+    repaintItem(item);
+}
+
 void Canvas::repaintItem(int item) {
     if (item < 0 || item >= static_cast<int>(items_.size())) return;
     const auto beyond = overhang();
@@ -225,10 +230,11 @@ void Canvas::paintEvent(QPaintEvent* event) {
     paintGround(painter, event->rect());
     painter.setRenderHint(QPainter::Antialiasing);
     const auto beyond = overhang();
-    const QRectF dirty = event->rect().adjusted(-beyond, -beyond, beyond, beyond);
+    const auto& dirty = event->region();
     const bool ring = showsFocus();
     for (std::size_t i = 0; i < items_.size(); ++i) {
-        if (!items_[i].rect.intersects(dirty)) continue;
+        const auto covers = items_[i].rect.toAlignedRect();
+        if (!dirty.intersects(covers.adjusted(-beyond, -beyond, beyond, beyond))) continue;
         const auto item = static_cast<int>(i);
         painter.save();
         paintItem(painter, items_[i],

@@ -34,6 +34,22 @@ QPainterPath rounded(const QRectF& in, const std::array<int, 4>& radii) {
     return path;
 }
 
+/// The four arcs of a round rectangle alone.
+QPainterPath corners(const QRectF& in, qreal radius) {
+    QPainterPath path;
+    const QSizeF circle(2 * radius, 2 * radius);
+    const auto add = [&](QPointF topLeft, int from) {
+        const QRectF of(topLeft, circle);
+        path.arcMoveTo(of, from);
+        path.arcTo(of, from, 90);
+    };
+    add({in.right() - circle.width(), in.top()}, 0);
+    add(in.topLeft(), 90);
+    add({in.left(), in.bottom() - circle.height()}, 180);
+    add({in.right() - circle.width(), in.bottom() - circle.height()}, 270);
+    return path;
+}
+
 bool isSquare(const std::array<int, 4>& radii) {
     return std::all_of(radii.begin(), radii.end(), [](int radius) { return radius == 0; });
 }
@@ -57,7 +73,16 @@ QPainterPath ringPath(const QRectF& in, const std::array<int, 4>& radii, qreal i
     return rounded(in.adjusted(inset, inset, -inset, -inset), inner);
 }
 
-/// Fills the shape without seams between neighbours.
+/// Its edges lie between device pixels.
+bool isOnPixels(const QPainter& painter, const QRectF& in) {
+    const auto& transform = painter.deviceTransform();
+    if (transform.type() > QTransform::TxScale) return false;
+    const auto mapped = transform.mapRect(in);
+    return mapped == QRectF(mapped.toRect());
+}
+
+/// Fills the shape without seams between neighbours: square ones by whole pixels, and of round ones
+/// all but the corners.
 void fillShape(QPainter& painter, const QRectF& in, const std::array<int, 4>& radii,
                const QBrush& brush) {
     if (isSquare(radii)) {
@@ -66,7 +91,20 @@ void fillShape(QPainter& painter, const QRectF& in, const std::array<int, 4>& ra
     }
     painter.setPen(Qt::NoPen);
     painter.setBrush(brush);
-    painter.drawPath(rounded(in, radii));
+    const auto [topLeft, topRight, bottomRight, bottomLeft] = radii;
+    const auto above = std::max(topLeft, topRight), below = std::max(bottomLeft, bottomRight);
+    const auto middle = in.adjusted(0, above, 0, -below);
+    if (middle.height() < 1 || !isOnPixels(painter, middle)) {
+        painter.drawPath(rounded(in, radii));
+        return;
+    }
+    // Antialiasing what lies far from a corner takes longer than all else in a frame.
+    painter.fillRect(middle, brush);
+    if (above > 0)
+        painter.drawPath(rounded(QRectF(in.topLeft(), middle.topRight()), {topLeft, topRight}));
+    if (below > 0)
+        painter.drawPath(rounded(QRectF(middle.bottomLeft(), in.bottomRight()),
+                                 {0, 0, bottomRight, bottomLeft}));
 }
 
 QBrush checkerboard(const Theme& theme) {
@@ -145,9 +183,23 @@ void SwatchPainter::fill(QPainter& painter, const QRectF& place, const WashColor
 }
 
 void SwatchPainter::hairline(QPainter& painter, const QRectF& in, int radius) const {
-    painter.setPen(QPen(QColor(127, 127, 127, 89), 1));
+    const QColor color(127, 127, 127, 89);
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(in.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    const auto high = in.height() - 2 * radius, wide = in.width() - 2 * radius;
+    if (high < 1 || wide < 1 || !isOnPixels(painter, in.adjusted(radius, radius, 0, 0))) {
+        painter.setPen(QPen(color, 1));
+        painter.drawRoundedRect(in.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+        return;
+    }
+    painter.fillRect(QRectF(in.left() + radius, in.top(), wide, 1), color);
+    painter.fillRect(QRectF(in.left() + radius, in.bottom() - 1, wide, 1), color);
+    painter.fillRect(QRectF(in.left(), in.top() + radius, 1, high), color);
+    painter.fillRect(QRectF(in.right() - 1, in.top() + radius, 1, high), color);
+    if (radius == 0) return;
+    QPen pen(color, 1);
+    pen.setCapStyle(Qt::FlatCap);
+    painter.setPen(pen);
+    painter.drawPath(corners(in.adjusted(0.5, 0.5, -0.5, -0.5), radius));
 }
 
 void SwatchPainter::chip(QPainter& painter, const QRectF& in, const WashColor& color,
@@ -168,7 +220,7 @@ void SwatchPainter::paint(QPainter& painter, const QRectF& in, const SwatchLook&
     fill(painter, in, look.color, look.vision, look.radii);
     const auto under = flat(look.color, look.vision);
     const auto ink = toQColor(under.readableForeground());
-    const SwatchWords words(theme_, in, look);
+    const SwatchWords words(theme_, lines_, in, look);
     if (!look.color.isOpaque()) {
         painter.save();
         painter.setClipPath(rounded(in, look.radii), Qt::IntersectClip);
@@ -213,11 +265,11 @@ void SwatchPainter::paintRings(QPainter& painter, const QRectF& in, const Swatch
 }
 
 QRectF SwatchPainter::nameRect(const QRectF& in, const SwatchLook& look) const {
-    return SwatchWords(theme_, in, look).name();
+    return SwatchWords(theme_, lines_, in, look).name();
 }
 
 QRectF SwatchPainter::codeRect(const QRectF& in, const SwatchLook& look) const {
-    return SwatchWords(theme_, in, look).code();
+    return SwatchWords(theme_, lines_, in, look).code();
 }
 
 std::vector<QRectF> SwatchPainter::buttonRects(const QRectF& in, SwatchShape shape,

@@ -2,6 +2,7 @@
 
 #include "ui/shared/SwatchPainter.h"
 #include "ui/shared/Theme.h"
+#include "ui/shared/TextLines.h"
 
 #include <QRectF>
 #include <QString>
@@ -11,7 +12,7 @@ namespace tintra {
 /// Where the words of a swatch stand, and their painting.
 class SwatchWords {
 public:
-    SwatchWords(const Theme& theme, const QRectF& in, const SwatchLook& look);
+    SwatchWords(const Theme& theme, TextLines& lines, const QRectF& in, const SwatchLook& look);
 
     /// In the coordinates of the swatch, rotated shapes included; empty where a word has no room.
     QRectF name() const;
@@ -37,6 +38,7 @@ private:
     QFont measured(TextStyle style) const;
 
     const Theme& theme_;
+    TextLines& lines_;
     const QRectF in_;
     const SwatchLook& look_;
 };

@@ -130,6 +130,9 @@ QFont::Weight lighter(QFont::Weight weight) {
 
 struct Theme::Subscriptions {
     std::vector<QPropertyNotifier> all;
+    /// By style and whether the ink is light; made once for as long as nothing changes: a copy of a
+    /// font shares what was found of its face.
+    QHash<std::pair<TextStyle, bool>, QFont> fonts;
 };
 
 Theme::Theme(const Preferences& preferences, const DesktopSettings& desktop)
@@ -138,6 +141,7 @@ Theme::Theme(const Preferences& preferences, const DesktopSettings& desktop)
     const auto follow = [this](const auto& property) {
         subscriptions_->all.emplace_back(property, [this] {
             icons_.clear();
+            subscriptions_->fonts.clear();
             version_ = version_ + 1;
         });
     };
@@ -181,14 +185,19 @@ QFont Theme::font(TextStyle style) const {
 }
 
 QFont Theme::font(TextStyle style, const QColor& ink) const {
+    const bool isLight = ink.lightnessF() > 0.5F;
+    auto& made = subscriptions_->fonts;
+    if (const auto found = made.constFind({style, isLight}); found != made.constEnd())
+        return *found;
     const auto& row = rowOf(style);
     QFont font;
     font.setFamilies(families(row.face));
     font.setPixelSize(scaled(row.size));
-    const bool growsHeavy = row.face != Face::mono && isOurs() && ink.lightnessF() > 0.5F;
+    const bool growsHeavy = row.face != Face::mono && isOurs() && isLight;
     font.setWeight(growsHeavy ? lighter(row.weight) : row.weight);
     // Ligatures of a mono face would join the hyphens of "--name".
     if (row.face == Face::mono) font.setStyleStrategy(QFont::PreferNoShaping);
+    made.insert({style, isLight}, font);
     return font;
 }
 
