@@ -1,5 +1,6 @@
 #include "ui/shared/Canvas.h"
 
+#include "ui/shared/AccessibilityEvents.h"
 #include "ui/shared/Theme.h"
 
 #include <QCoreApplication>
@@ -90,17 +91,17 @@ void Canvas::activate(int) {
 }
 
 void Canvas::announce(QAccessible::Event what, int item) {
-    if (item < 0 || !QAccessible::isActive()) return;
+    if (item < 0 || !isAccessibilityHeard()) return;
     QAccessibleEvent event(this, what);
     event.setChild(item);
-    QAccessible::updateAccessibility(&event);
+    tellAccessibility(event);
 }
 
 void Canvas::announceChanges(const std::vector<CanvasItem>& before) {
-    if (!QAccessible::isActive()) return;
+    if (!isAccessibilityHeard()) return;
     if (before.size() != items_.size()) {
         QAccessibleEvent event(this, QAccessible::ObjectReorder);
-        QAccessible::updateAccessibility(&event);
+        tellAccessibility(event);
         return;
     }
     for (std::size_t i = 0; i < items_.size(); ++i) {
@@ -116,7 +117,7 @@ void Canvas::announceChanges(const std::vector<CanvasItem>& before) {
         which.checked = true;
         QAccessibleStateChangeEvent event(this, which);
         event.setChild(item);
-        QAccessible::updateAccessibility(&event);
+        tellAccessibility(event);
     }
 }
 
@@ -300,7 +301,7 @@ void Canvas::focusInEvent(QFocusEvent* event) {
     const auto tell = [this] {
         if (hasFocus()) announce(QAccessible::Focus, focused_);
     };
-    if (QAccessible::isActive()) QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+    if (isAccessibilityHeard()) QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void Canvas::focusOutEvent(QFocusEvent* event) {

@@ -37,6 +37,17 @@ bool isSquare(const std::array<int, 4>& radii) {
     return std::all_of(radii.begin(), radii.end(), [](int radius) { return radius == 0; });
 }
 
+/// With its edges on whole pixels of the device, unless the painter turns it: at 125 or 150 % the
+/// ground would show through between neighbours.
+QRectF onPixels(const QPainter& painter, const QRectF& in) {
+    const auto toDevice = painter.deviceTransform();
+    if (toDevice.type() > QTransform::TxScale) return in;
+    const auto there = toDevice.mapRect(in);
+    const QPointF from(std::round(there.left()), std::round(there.top()));
+    const QPointF to(std::round(there.right()), std::round(there.bottom()));
+    return toDevice.inverted().mapRect(QRectF(from, to));
+}
+
 /// Fills the shape without seams between neighbours: square ones by whole pixels.
 void fillShape(QPainter& painter, const QRectF& in, const std::array<int, 4>& radii,
                const QBrush& brush) {
@@ -83,8 +94,9 @@ QColor SwatchPainter::foreground(const WashColor& color, Vision vision) const {
     return toQColor(flat(color, vision).readableForeground());
 }
 
-void SwatchPainter::fill(QPainter& painter, const QRectF& in, const WashColor& color, Vision vision,
-                         std::array<int, 4> radii) const {
+void SwatchPainter::fill(QPainter& painter, const QRectF& place, const WashColor& color,
+                         Vision vision, std::array<int, 4> radii) const {
+    const auto in = onPixels(painter, place);
     if (color.isOpaque()) {
         fillShape(painter, in, radii, toQColor(simulate(vision, color)));
         return;
@@ -136,7 +148,8 @@ void SwatchPainter::chip(QPainter& painter, const QRectF& in, const WashColor& c
     hairline(painter, in, kRadius);
 }
 
-void SwatchPainter::paint(QPainter& painter, const QRectF& in, const SwatchLook& look) const {
+void SwatchPainter::paint(QPainter& painter, const QRectF& place, const SwatchLook& look) const {
+    const auto in = onPixels(painter, place);
     if (look.leftBehind) {
         painter.setPen(QPen(theme_.color(Token::edge), 1.5, Qt::DashLine));
         painter.setBrush(Qt::NoBrush);
