@@ -161,8 +161,13 @@ TEST(Accessibility, TellsOfWhatChanges) {
     told = Heard::taken();
     EXPECT_THAT(told, Contains("alert: Two, "));
     EXPECT_THAT(told, Contains("show: Two, ")) << "though the bar was there";
-    state.addToPalette({1, 1, 1, 1}, AppState::Duplicates::refuse);
-    EXPECT_THAT(Heard::taken(), Contains("children: Palette, "));
+    window.notices().dismiss();
+    partOf<PaletteCanvas>(window).setFocus(Qt::TabFocusReason);
+    Heard::taken();
+    state.removeSwatch(1);
+    told = Heard::taken();
+    EXPECT_THAT(told, Contains("children: Palette, "));
+    EXPECT_THAT(told, Contains("focus: " + state.swatchName(1) + ", #862e02, 2 of 2"));
 }
 
 TEST(Canvas, PagesByWhatIsSeen) {

@@ -254,6 +254,8 @@ TEST(PaletteWindow, SaysNoToWhatADragCannotLeave) {
     EXPECT_THAT(state.swatches(), SizeIs(2));
     desk.notices();
     const QPoint onTools(5, 5);
+    QDragEnterEvent enter(onTools, Qt::CopyAction, known.get(), Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window, &enter);
     QDragMoveEvent over(onTools, Qt::CopyAction, known.get(), Qt::LeftButton, {});
     QCoreApplication::sendEvent(&window, &over);
     EXPECT_TRUE(over.isAccepted());
@@ -303,8 +305,8 @@ TEST(PaletteWindow, GivesThePaletteAwayAsAFile) {
                         .value_or(std::vector<PaletteFile::Swatch>());
         QDrag::cancel();
     };
-    QMetaObject::invokeMethod(&window, look, Qt::QueuedConnection);
     QTest::mousePress(&count, Qt::LeftButton, {}, {10, 8});
+    QMetaObject::invokeMethod(&window, look, Qt::QueuedConnection);
     QMouseEvent move(QEvent::MouseMove, QPointF(60, 8), count.mapToGlobal(QPointF(60, 8)),
                      Qt::LeftButton, Qt::LeftButton, {});
     QCoreApplication::sendEvent(&count, &move);

@@ -1,6 +1,7 @@
 #include "state/ContrastBoard.h"
 #include "tests/ui/Desk.h"
 #include "tests/ui/Parts.h"
+#include "ui/actions/ActionTable.h"
 #include "ui/palette/CollapsedStrip.h"
 #include "ui/palette/PaletteWindow.h"
 #include "ui/palette/StripCells.h"
@@ -132,7 +133,7 @@ TEST(StripTest, IsWorkedWithoutUnfoldingIt) {
     EXPECT_EQ(desk.models.contrast().entries()[0].color, state.last());
     state.mode = HarmonyMode::paletteBuilder;
     EXPECT_TRUE(state.isCollapsed.value());
-    press("F2");
+    EXPECT_TRUE(perform(ActionId::renameSwatch, {desk.ui, &window}));
     EXPECT_FALSE(state.isCollapsed.value()) << "a name is edited where it can be seen";
     EXPECT_TRUE(accessible(window, "Name of the swatch"));
 }

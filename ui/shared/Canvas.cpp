@@ -102,6 +102,8 @@ void Canvas::announceChanges(const std::vector<CanvasItem>& before) {
     if (before.size() != items_.size()) {
         QAccessibleEvent event(this, QAccessible::ObjectReorder);
         tellAccessibility(event);
+        // Another one may stand where the focus is.
+        if (hasFocus()) announce(QAccessible::Focus, focused_);
         return;
     }
     for (std::size_t i = 0; i < items_.size(); ++i) {
