@@ -20,6 +20,14 @@ namespace {
 
 constexpr int kMargin = 12;
 
+/// Hides or shows a panel; the keyboard goes from one that is hidden to `then`, not to whatever
+/// comes next in the window.
+void setShown(QWidget& panel, bool shows, QWidget& then) {
+    if (!shows && panel.isAncestorOf(QApplication::focusWidget()))
+        then.setFocus(Qt::OtherFocusReason);
+    panel.setVisible(shows);
+}
+
 /// Shows where a drop would go that goes to the window as a whole.
 class DropRing final : public QWidget {
 public:
@@ -103,7 +111,7 @@ int PaletteBody::editorWidth() const {
 
 QRect PaletteBody::layOutPicture(QRect room) {
     const bool open = state_.isPictureWindowOpen.value();
-    picture_->setVisible(open);
+    setShown(*picture_, open, *main());
     divider_->setVisible(open);
     if (!open) return room;
     const auto share = ui_.models.preferences().pictureShare.value();
@@ -126,7 +134,7 @@ void PaletteBody::layOut() {
     const bool overlays = window()->width() < kOverlayBelow;
     if (edits && !overlays) room.setRight(editorPlace.left() - 1);
     layOutMain(layOutPicture(room));
-    editor_->setVisible(edits);
+    setShown(*editor_, edits, *main());
     editor_->setGeometry(editorPlace);
     editor_->raise();
     ring_->setGeometry(rect());

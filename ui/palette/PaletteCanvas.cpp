@@ -272,7 +272,14 @@ void PaletteCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemSta
         // that of the number.
         if (stand_.shape == SwatchShape::row) drawn.code.clear();
         if (stand_.shape == SwatchShape::onSide) drawn.hidesName = true;
-        if (stand_.shape == SwatchShape::tile) drawn.index.clear();
+        if (stand_.shape == SwatchShape::tile) {
+            // There they begin at the top, and with large type reach down to the name.
+            drawn.index.clear();
+            const auto places =
+                ui_.painter.buttonRects(item.rect, stand_.shape, drawn.buttons.size());
+            if (places.back().bottom() > ui_.painter.nameRect(item.rect, drawn).top())
+                drawn.hidesName = true;
+        }
     }
     ui_.painter.paint(painter, item.rect, drawn);
     if (drawn.leftBehind) return;

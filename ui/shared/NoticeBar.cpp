@@ -1,6 +1,7 @@
 #include "ui/shared/NoticeBar.h"
 
 #include "platform/MainLoop.h"
+#include "ui/shared/AccessibilityEvents.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
@@ -80,11 +81,11 @@ void NoticeBar::present(const QString& text, double seconds, std::optional<Toast
     else
         startClock();
     QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
+    tellAccessibility(alert);
     if (!replaces) return;
     // The bus knows no alerts: readers tell of what comes to be shown.
     QAccessibleEvent appears(this, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&appears);
+    tellAccessibility(appears);
 }
 
 void NoticeBar::dismiss() {

@@ -209,7 +209,8 @@ void SwatchPainter::chip(QPainter& painter, const QRectF& in, const WashColor& c
     hairline(painter, in, kRadius);
 }
 
-void SwatchPainter::paint(QPainter& painter, const QRectF& in, const SwatchLook& look) const {
+void SwatchPainter::paint(QPainter& painter, const QRectF& place, const SwatchLook& look) const {
+    const auto in = onPixels(painter, place);
     if (look.leftBehind) {
         painter.setPen(QPen(theme_.color(Token::edge), 1.5, Qt::DashLine));
         painter.setBrush(Qt::NoBrush);
