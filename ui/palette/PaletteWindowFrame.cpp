@@ -105,7 +105,7 @@ void PaletteWindow::syncCollapsed() {
         parts.strip = new CollapsedStrip(ui_, state_, this);
         parts.strip->cells().contextMenu = [this](QPoint at) { popUp(at, fillStripMenu); };
     }
-    const bool shows = isVisible();
+    const bool shows = isVisible(), isActive = isActiveWindow();
     parts.isFolded = folds;
     parts.unfolded->setVisible(!folds);
     parts.strip->setVisible(folds);
@@ -117,6 +117,10 @@ void PaletteWindow::syncCollapsed() {
         restoreFrame();
     }
     if (shows) show();
+    // With other flags it is another window to the desktop, which need not get the keyboard.
+    if (isActive) activateWindow();
+    auto* const canvas = folds ? static_cast<Canvas*>(&parts.strip->cells()) : parts.body->main();
+    canvas->setFocus(Qt::OtherFocusReason);
     parts.isPlacing = false;
 }
 
