@@ -50,8 +50,8 @@ PaletteWindow::PaletteWindow(Ui& ui, AppState& state)
     syncPanels();
     restoreFrame();
     syncOnTop();
-    syncCollapsed();
     parts_->body->main()->setFocus();
+    syncCollapsed();
 }
 
 PaletteWindow::~PaletteWindow() = default;
