@@ -71,10 +71,9 @@ void PaletteWindow::assemble() {
     column->setContentsMargins({});
     column->setSpacing(0);
     // The order is that of the Tab key.
-    parts.menuBar = new QMenuBar(parts.unfolded);
-    parts.menuBar->setNativeMenuBar(false);
-    parts.menuBar->hide();
+    parts.menuBar = new CalledMenuBar(parts.unfolded);
     fillMenuBar(*parts.menuBar, contextNow);
+    parts.menuBar->followMenus();
     parts.toolBar = new PaletteToolBar(ui_, state_, contextNow, parts.unfolded);
     parts.seedRow = new SeedRow(ui_, state_, parts.unfolded);
     parts.body = new PaletteBody(ui_, state_, parts.unfolded);
@@ -202,21 +201,17 @@ void PaletteWindow::setPeeking(bool peeks) {
 }
 
 bool PaletteWindow::showsMenuBar() const {
-    return parts_->pinsMenuBar;
+    return parts_->menuBar->isPinned();
 }
 
 void PaletteWindow::toggleMenuBar() {
-    parts_->pinsMenuBar = !parts_->pinsMenuBar;
-    parts_->menuBar->setVisible(parts_->pinsMenuBar);
+    parts_->menuBar->setPinned(!parts_->menuBar->isPinned());
 }
 
 void PaletteWindow::openMenuBar() {
     // A strip has no room for a bar.
     if (parts_->isFolded) return showContextMenu();
-    auto* bar = parts_->menuBar;
-    bar->show();
-    bar->setFocus(Qt::MenuBarFocusReason);
-    bar->setActiveAction(bar->actions().first());
+    parts_->menuBar->call();
 }
 
 std::vector<QWidget*> PaletteWindow::regions() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/palette/CalledMenuBar.h"
 #include "ui/palette/CollapsedStrip.h"
 #include "ui/palette/PaletteBody.h"
 #include "ui/palette/PaletteFoot.h"
@@ -11,14 +12,12 @@
 #include "ui/shared/NoticeBar.h"
 #include "ui/shared/Subscriptions.h"
 
-#include <QMenuBar>
-
 namespace tintra {
 
 /// The pieces of a palette window; the window owns them.
 struct PaletteWindow::Parts {
     QWidget* unfolded = nullptr; ///< all but the strip
-    QMenuBar* menuBar = nullptr;
+    CalledMenuBar* menuBar = nullptr;
     PaletteToolBar* toolBar = nullptr;
     SeedRow* seedRow = nullptr;
     PaletteBody* body = nullptr;
@@ -28,7 +27,6 @@ struct PaletteWindow::Parts {
     PasteSheet* pasteSheet = nullptr; ///< made when it is first opened
     CollapsedStrip* strip = nullptr;  ///< made when the window is first collapsed
 
-    bool pinsMenuBar = false;
     bool altAlone = false; ///< Alt is held and nothing else was pressed
     bool isClosing = false;
     bool isPlacing = false; ///< the window places itself: not the user's doing
