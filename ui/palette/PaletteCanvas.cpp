@@ -16,7 +16,7 @@ namespace tintra {
 namespace {
 
 constexpr int kMargin = 12;
-constexpr int kRow = 44; ///< least height of a row
+constexpr int kRow = 40; ///< least height of a row
 constexpr int kBar = 4;  ///< thickness of the bar beneath a selected swatch
 constexpr int kBarGap = 4;
 constexpr int kInsertion = 6;
@@ -268,9 +268,18 @@ void PaletteCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemSta
     drawn.radii = radiiWithin(item.rect, isAlone ? item.rect : *group, metrics::kGroupRadius);
     drawn.buttons = buttons(item, state);
     if (!drawn.buttons.empty()) {
-        // In a row the buttons take the place of the code, on a side that of a long name.
+        // In a row the buttons take the place of the code, on a side that of a long name, on a tile
+        // that of the number.
         if (stand_.shape == SwatchShape::row) drawn.code.clear();
         if (stand_.shape == SwatchShape::onSide) drawn.hidesName = true;
+        if (stand_.shape == SwatchShape::tile) {
+            // There they begin at the top, and with large type reach down to the name.
+            drawn.index.clear();
+            const auto places =
+                ui_.painter.buttonRects(item.rect, stand_.shape, drawn.buttons.size());
+            if (places.back().bottom() > ui_.painter.nameRect(item.rect, drawn).top())
+                drawn.hidesName = true;
+        }
     }
     ui_.painter.paint(painter, item.rect, drawn);
     if (drawn.leftBehind) return;

@@ -162,6 +162,9 @@ void PaletteToolBar::resizeEvent(QResizeEvent*) {
 void PaletteToolBar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), ui_.theme.color(Token::panel));
+    // Where surfaces do not differ a line parts them; in a harmony the seeds have it.
+    if (ui_.theme.isHighContrast() && state_.mode.value() == HarmonyMode::paletteBuilder)
+        painter.fillRect(0, height() - 1, width(), 1, ui_.theme.color(Token::line));
     constexpr int kLine = 20;
     for (const auto& tool : tools_)
         if (tool.opensGroup && !tool.button->isHidden())

@@ -153,9 +153,7 @@ void PaletteWindow::syncPanels() {
 void PaletteWindow::syncOnTop() {
     const bool wanted = ui_.models.preferences().alwaysOnTop;
     if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == wanted) return;
-    const bool shows = isVisible();
-    setWindowFlag(Qt::WindowStaysOnTopHint, wanted);
-    if (shows) show();
+    setFlagInPlace(Qt::WindowStaysOnTopHint, wanted);
 }
 
 NoticeBar& PaletteWindow::notices() const {

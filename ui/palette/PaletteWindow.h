@@ -79,6 +79,7 @@ private:
     void syncCollapsed();
     void syncOnTop();
     void popUp(QPoint at, void (*fill)(QMenu&, const ActionContext&));
+    void setFlagInPlace(Qt::WindowType flag, bool on);
     /// The keyboard is where single letters are commands.
     bool isOnCanvas() const;
     std::vector<QWidget*> regions() const;

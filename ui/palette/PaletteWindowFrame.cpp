@@ -10,6 +10,7 @@
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QWindow>
 #include <algorithm>
 #include <cmath>
 
@@ -105,22 +106,28 @@ void PaletteWindow::syncCollapsed() {
         parts.strip = new CollapsedStrip(ui_, state_, this);
         parts.strip->cells().contextMenu = [this](QPoint at) { popUp(at, fillStripMenu); };
     }
-    const bool shows = isVisible();
-    // A window that gets or loses its frame is told nothing of where it is unless it is moved.
-    const auto corner = pos();
     parts.isFolded = folds;
     parts.unfolded->setVisible(!folds);
     parts.strip->setVisible(folds);
-    setWindowFlag(Qt::FramelessWindowHint, folds);
+    setFlagInPlace(Qt::FramelessWindowHint, folds);
     if (folds) {
         resizeStrip();
-        move(corner);
     } else {
         setMinimumSize(240, 180);
         restoreFrame();
     }
-    if (shows) show();
     parts.isPlacing = false;
+}
+
+// QWidget would hide the window and show it again, which loses the focus and, with some window
+// managers, the knowledge of where it is.
+void PaletteWindow::setFlagInPlace(Qt::WindowType flag, bool on) {
+    if (!windowHandle()) {
+        setWindowFlag(flag, on);
+        return;
+    }
+    overrideWindowFlags(windowFlags().setFlag(flag, on));
+    windowHandle()->setFlag(flag, on);
 }
 
 void PaletteWindow::resizeStrip() {

@@ -1,5 +1,6 @@
 #include "ui/shared/Canvas.h"
 
+#include "ui/shared/AccessibilityEvents.h"
 #include "ui/shared/Theme.h"
 
 #include <QCoreApplication>
@@ -90,17 +91,19 @@ void Canvas::activate(int) {
 }
 
 void Canvas::announce(QAccessible::Event what, int item) {
-    if (item < 0 || !QAccessible::isActive()) return;
+    if (item < 0 || !isAccessibilityHeard()) return;
     QAccessibleEvent event(this, what);
     event.setChild(item);
-    QAccessible::updateAccessibility(&event);
+    tellAccessibility(event);
 }
 
 void Canvas::announceChanges(const std::vector<CanvasItem>& before) {
-    if (!QAccessible::isActive()) return;
+    if (!isAccessibilityHeard()) return;
     if (before.size() != items_.size()) {
         QAccessibleEvent event(this, QAccessible::ObjectReorder);
-        QAccessible::updateAccessibility(&event);
+        tellAccessibility(event);
+        // Another one may stand where the focus is.
+        if (hasFocus()) announce(QAccessible::Focus, focused_);
         return;
     }
     for (std::size_t i = 0; i < items_.size(); ++i) {
@@ -116,7 +119,7 @@ void Canvas::announceChanges(const std::vector<CanvasItem>& before) {
         which.checked = true;
         QAccessibleStateChangeEvent event(this, which);
         event.setChild(item);
-        QAccessible::updateAccessibility(&event);
+        tellAccessibility(event);
     }
 }
 
@@ -226,9 +229,9 @@ bool Canvas::event(QEvent* event) {
 void Canvas::paintEvent(QPaintEvent* event) {
     layOut();
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::TextAntialiasing);
+    // Smooth edges of the ground would let through what lies beneath, at ratios such as 1.25.
     paintGround(painter, event->rect());
+    painter.setRenderHint(QPainter::Antialiasing);
     const auto beyond = overhang();
     const auto& dirty = event->region();
     const bool ring = showsFocus();
@@ -307,7 +310,7 @@ void Canvas::focusInEvent(QFocusEvent* event) {
     const auto tell = [this] {
         if (hasFocus()) announce(QAccessible::Focus, focused_);
     };
-    if (QAccessible::isActive()) QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+    if (isAccessibilityHeard()) QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void Canvas::focusOutEvent(QFocusEvent* event) {

@@ -68,6 +68,7 @@ protected:
 
     /// The items for a size, from back to front.
     virtual std::vector<CanvasItem> layoutItems(QSizeF size) const = 0;
+    /// Covers all of `dirty`; the painter does not smooth edges.
     virtual void paintGround(QPainter& painter, const QRect& dirty);
     virtual void paintItem(QPainter& painter, const CanvasItem& item, ItemState state) = 0;
     /// After all items: insertion bars, rings that overlap neighbours.

@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kCheck = 12; ///< a square of the checkerboard, px
 constexpr int kButton = 28, kButtonGap = 2, kInset = 8;
+constexpr int kWordsOfColumn = 80; ///< a name of two lines and a code, with what is around them
 
 QPainterPath rounded(const QRectF& in, const std::array<int, 4>& radii) {
     QPainterPath path;
@@ -51,6 +52,25 @@ QPainterPath corners(const QRectF& in, qreal radius) {
 
 bool isSquare(const std::array<int, 4>& radii) {
     return std::all_of(radii.begin(), radii.end(), [](int radius) { return radius == 0; });
+}
+
+/// Brought to whole pixels of the screen, so that neighbours meet without a seam at every ratio;
+/// as it is where the painter is turned.
+QRectF onPixels(const QPainter& painter, const QRectF& in) {
+    const auto toDevice = painter.deviceTransform();
+    if (toDevice.type() > QTransform::TxScale) return in;
+    const auto there = toDevice.mapRect(in);
+    const QPointF topLeft(std::round(there.left()), std::round(there.top()));
+    const QPointF bottomRight(std::round(there.right()), std::round(there.bottom()));
+    return toDevice.inverted().mapRect(QRectF(topLeft, bottomRight));
+}
+
+/// The shape of a ring within a swatch.
+QPainterPath ringPath(const QRectF& in, const std::array<int, 4>& radii, qreal inset) {
+    auto inner = radii;
+    for (auto& radius : inner)
+        radius = std::max(0, radius - static_cast<int>(std::lround(inset)));
+    return rounded(in.adjusted(inset, inset, -inset, -inset), inner);
 }
 
 /// Its edges lie between device pixels.
@@ -121,8 +141,9 @@ QColor SwatchPainter::foreground(const WashColor& color, Vision vision) const {
     return toQColor(flat(color, vision).readableForeground());
 }
 
-void SwatchPainter::fill(QPainter& painter, const QRectF& in, const WashColor& color, Vision vision,
-                         std::array<int, 4> radii) const {
+void SwatchPainter::fill(QPainter& painter, const QRectF& place, const WashColor& color,
+                         Vision vision, std::array<int, 4> radii) const {
+    const auto in = onPixels(painter, place);
     if (color.isOpaque()) {
         fillShape(painter, in, radii, toQColor(simulate(vision, color)));
         return;
@@ -188,7 +209,8 @@ void SwatchPainter::chip(QPainter& painter, const QRectF& in, const WashColor& c
     hairline(painter, in, kRadius);
 }
 
-void SwatchPainter::paint(QPainter& painter, const QRectF& in, const SwatchLook& look) const {
+void SwatchPainter::paint(QPainter& painter, const QRectF& place, const SwatchLook& look) const {
+    const auto in = onPixels(painter, place);
     if (look.leftBehind) {
         painter.setPen(QPen(theme_.color(Token::edge), 1.5, Qt::DashLine));
         painter.setBrush(Qt::NoBrush);
@@ -234,12 +256,12 @@ void SwatchPainter::paintRings(QPainter& painter, const QRectF& in, const Swatch
     if (look.focused && look.shape != SwatchShape::tile) {
         const auto other = ink == QColor(Qt::black) ? QColor(Qt::white) : QColor(Qt::black);
         painter.setPen(QPen(ink, 3));
-        painter.drawPath(rounded(in.adjusted(1.5, 1.5, -1.5, -1.5), look.radii));
+        painter.drawPath(ringPath(in, look.radii, 1.5));
         painter.setPen(QPen(other, 2));
-        painter.drawPath(rounded(in.adjusted(4, 4, -4, -4), look.radii));
+        painter.drawPath(ringPath(in, look.radii, 4));
     } else if (look.selected) {
         painter.setPen(QPen(ink, 2));
-        painter.drawPath(rounded(in.adjusted(1, 1, -1, -1), look.radii));
+        painter.drawPath(ringPath(in, look.radii, 1));
     }
 }
 
@@ -258,7 +280,10 @@ std::vector<QRectF> SwatchPainter::buttonRects(const QRectF& in, SwatchShape sha
     const auto step = side + kButtonGap;
     const bool isRow = shape == SwatchShape::row;
     const auto room = in.width() - 2 * kInset + kButtonGap;
-    const auto perLine = std::max<std::size_t>(1, static_cast<std::size_t>(room / step));
+    auto perLine = std::max<std::size_t>(1, static_cast<std::size_t>(room / step));
+    // One below the other in a high column; side by side where all have room, or none else.
+    const auto stack = static_cast<qreal>(count + 1) * step + theme_.scaled(kWordsOfColumn);
+    if (perLine < count && shape != SwatchShape::tile && stack <= in.height()) perLine = 1;
     for (std::size_t i = 0; i < count; ++i) {
         if (isRow) {
             const auto fromRight = static_cast<qreal>(count - i) * step;
@@ -275,7 +300,7 @@ std::vector<QRectF> SwatchPainter::buttonRects(const QRectF& in, SwatchShape sha
 }
 
 QPixmap SwatchPainter::card(const SwatchLook& look, QSize size, bool refused, qreal ratio) const {
-    constexpr int kMargin = 18;
+    constexpr int kMargin = 20; // the tilt, the rings and the badge
     constexpr qreal kTilt = -2;
     const QSize whole = size + QSize(2 * kMargin, 2 * kMargin);
     QPixmap pixmap(whole * ratio);
@@ -299,12 +324,13 @@ QPixmap SwatchPainter::card(const SwatchLook& look, QSize size, bool refused, qr
     plain.radii.fill(metrics::kGroupRadius);
     paint(painter, card, plain);
     if (refused) {
-        const QRectF badge(card.right() - 16, card.top() - 16, 30, 30);
+        const QRectF badge(card.right() - 18, card.top() - 12, 30, 30);
         painter.setPen(QPen(Qt::white, 2));
         painter.setBrush(QColor(0x16, 0x16, 0x16));
         painter.drawEllipse(badge);
         painter.setBrush(Qt::NoBrush);
-        const auto ring = badge.adjusted(8, 8, -8, -8);
+        const auto ring = badge.adjusted(9, 9, -9, -9);
+        painter.setPen(QPen(Qt::white, 1.5));
         painter.drawEllipse(ring);
         const auto reach = ring.width() / 2 * M_SQRT1_2;
         painter.drawLine(ring.center() - QPointF(reach, reach),

@@ -10,6 +10,7 @@ namespace tintra {
 namespace {
 
 constexpr int kInset = 12;    ///< of words from the edges of a swatch, px
+constexpr int kTight = 4;     ///< of a code that has no room else
 constexpr int kMark = 24;     ///< the circle or square around a pin's number
 constexpr int kRowIndex = 36; ///< what the number takes of a row
 constexpr int kButton = 28, kButtonGap = 2;
@@ -26,6 +27,10 @@ SwatchWords::SwatchWords(const Theme& theme, TextLines& lines, const QRectF& in,
                          const SwatchLook& look)
     : theme_(theme), lines_(lines), in_(in), look_(look) {}
 
+QFont SwatchWords::measured(TextStyle style) const {
+    return theme_.font(style, Qt::black);
+}
+
 QString SwatchWords::share() const {
     if (look_.color.isOpaque()) return {};
     return QString::number(std::lround(std::clamp(look_.color.a, 0.0, 1.0) * 100)) +
@@ -35,8 +40,7 @@ QString SwatchWords::share() const {
 int SwatchWords::nameLines() const {
     if (look_.shape == SwatchShape::bandCell) return 0;
     const auto width = in_.width() - 2 * kInset;
-    return static_cast<int>(
-        lines_.twoLines(theme_.font(TextStyle::name), look_.name, width).size());
+    return static_cast<int>(lines_.twoLines(measured(TextStyle::name), look_.name, width).size());
 }
 
 QRectF SwatchWords::code() const {
@@ -47,11 +51,11 @@ QRectF SwatchWords::code() const {
     case SwatchShape::bandCell:
         return {in_.left() + kInset, in_.bottom() - kInset - line, in_.width() - 2 * kInset, line};
     case SwatchShape::onSide: {
-        const auto length = lines_.width(theme_.font(TextStyle::codeOnSide), look_.code);
+        const auto length = lines_.width(measured(TextStyle::codeOnSide), look_.code);
         return {in_.center().x() - line / 2, in_.bottom() - kInset - length, line, length};
     }
     case SwatchShape::row: {
-        const auto width = lines_.width(theme_.font(TextStyle::code), look_.code) + 2;
+        const auto width = lines_.width(measured(TextStyle::code), look_.code) + 2;
         return {in_.right() - kInset - width, in_.center().y() - line / 2, width, line};
     }
     case SwatchShape::cell:
@@ -93,7 +97,7 @@ QRectF SwatchWords::indexRect() const {
     if (look_.shape == SwatchShape::row)
         return {in_.left() + kInset, in_.center().y() - kMark / 2.0, kMark, kMark};
     if (look_.pinned) return {in_.left() + kInset, in_.top() + kInset, kMark, kMark};
-    const auto width = figuresWidth(theme_.font(TextStyle::caption), look_.index);
+    const auto width = figuresWidth(measured(TextStyle::caption), look_.index);
     return {in_.left() + kInset, in_.top() + kInset, width, line};
 }
 
@@ -105,7 +109,7 @@ QRectF SwatchWords::ground() const {
     case SwatchShape::row:
         return {in_.left(), in_.center().y() - least / 2, in_.width(), least};
     case SwatchShape::onSide: {
-        const auto words = lines_.width(theme_.font(TextStyle::name), look_.name);
+        const auto words = lines_.width(measured(TextStyle::name), look_.name);
         const auto place = name();
         const auto top = place.bottom() - std::min(words, place.height()) - kInset / 2.0;
         return QRectF(QPointF(in_.left(), std::max(in_.top(), top)), in_.bottomRight());
@@ -120,7 +124,7 @@ QRectF SwatchWords::ground() const {
 void SwatchWords::paintIndex(QPainter& painter, const QColor& ink, const QColor& ground) const {
     if (look_.index.isEmpty() || look_.shape == SwatchShape::onSide) return;
     const auto place = indexRect();
-    painter.setFont(theme_.font(TextStyle::caption));
+    painter.setFont(theme_.font(TextStyle::caption, ink));
     if (!look_.color.isOpaque()) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(ground);
@@ -145,7 +149,7 @@ void SwatchWords::paintOnSide(QPainter& painter) const {
     painter.save();
     painter.translate(in_.center().x(), in_.bottom() - kInset);
     painter.rotate(-90);
-    const auto codeFont = theme_.font(TextStyle::codeOnSide);
+    const auto codeFont = measured(TextStyle::codeOnSide);
     const auto length = lines_.width(codeFont, look_.code);
     const qreal line = theme_.lineHeight(TextStyle::name);
     const auto room = in_.height() - 2 * kInset;
@@ -154,9 +158,9 @@ void SwatchWords::paintOnSide(QPainter& painter) const {
                      look_.code);
     const auto nameRoom = room - length - kInset;
     if (nameRoom > line && !look_.hidesName) {
-        const auto font = theme_.font(TextStyle::name);
-        lines_.paint(painter, font, QRectF(length + kInset, -line / 2, nameRoom, line),
-                     Qt::AlignLeft, lines_.cut(font, look_.name, nameRoom));
+        const auto text = lines_.cut(measured(TextStyle::name), look_.name, nameRoom);
+        lines_.paint(painter, theme_.font(TextStyle::name, painter.pen().color()),
+                     QRectF(length + kInset, -line / 2, nameRoom, line), Qt::AlignLeft, text);
     }
     painter.restore();
 }
@@ -164,16 +168,17 @@ void SwatchWords::paintOnSide(QPainter& painter) const {
 void SwatchWords::paintName(QPainter& painter) const {
     const auto place = name();
     if (look_.hidesName || place.width() < 8) return;
-    const auto font = theme_.font(TextStyle::name);
+    const auto font = measured(TextStyle::name);
+    const auto inked = theme_.font(TextStyle::name, painter.pen().color());
     if (look_.shape == SwatchShape::row) {
-        lines_.paint(painter, font, place, Qt::AlignLeft,
+        lines_.paint(painter, inked, place, Qt::AlignLeft,
                      lines_.cut(font, look_.name, place.width()));
         return;
     }
     const qreal line = theme_.lineHeight(TextStyle::name);
     auto y = place.top();
     for (const auto& text : lines_.twoLines(font, look_.name, place.width())) {
-        lines_.paint(painter, font, QRectF(place.left(), y, place.width(), line), Qt::AlignLeft,
+        lines_.paint(painter, inked, QRectF(place.left(), y, place.width(), line), Qt::AlignLeft,
                      text);
         y += line;
     }
@@ -181,7 +186,12 @@ void SwatchWords::paintName(QPainter& painter) const {
 
 void SwatchWords::paintCode(QPainter& painter, const QColor& ink, const QColor& ground) const {
     auto place = code();
-    const auto font = theme_.font(TextStyle::code);
+    auto font = measured(TextStyle::code);
+    if (isAtFoot(look_.shape) && lines_.width(font, look_.code) > place.width()) {
+        // The eight digits of a translucent colour find room in the narrowest column.
+        font = measured(TextStyle::codeOnSide);
+        place.setRight(in_.right() - kTight);
+    }
     const auto alpha = isAtFoot(look_.shape) ? share() : QString();
     const auto alphaWidth = alpha.isEmpty() ? 0 : lines_.width(font, alpha) + 8;
     const auto room = place.width();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/shared/SwatchPainter.h"
+#include "ui/shared/Theme.h"
 #include "ui/shared/TextLines.h"
 
 #include <QRectF>
@@ -31,6 +32,10 @@ private:
     int nameLines() const;
     /// "60%" for a translucent colour, else nothing.
     QString share() const;
+
+    /// The face that words are measured in: of dark ink, which is the wider one, so that a swatch
+    /// has the same lines whatever its colour.
+    QFont measured(TextStyle style) const;
 
     const Theme& theme_;
     TextLines& lines_;

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QPainter>
 #include <QStringBuilder>
 #include <QSvgRenderer>
@@ -103,12 +104,35 @@ QStringList families(Face face) {
     return {systemText};
 }
 
+/// Whether the interface is set in Inter.
+bool isOurs() {
+    static const bool is =
+        QFontInfo(QFont(QStringLiteral("Inter"))).family() == QStringLiteral("Inter");
+    return is;
+}
+
+/// FreeType darkens the stems of Inter's outlines, and Qt blends them by gamma: together that is
+/// right for dark ink, but makes light ink look a weight heavier than it is.
+QFont::Weight lighter(QFont::Weight weight) {
+    switch (weight) {
+    case QFont::DemiBold:
+        return QFont::Medium;
+    case QFont::Medium:
+        return QFont::Normal;
+    case QFont::Normal:
+        return QFont::Light;
+    default:
+        return weight;
+    }
+}
+
 } // namespace
 
 struct Theme::Subscriptions {
     std::vector<QPropertyNotifier> all;
-    /// Made once for as long as nothing changes: a copy of a font shares what was found of its face.
-    QHash<TextStyle, QFont> fonts;
+    /// By style and whether the ink is light; made once for as long as nothing changes: a copy of a
+    /// font shares what was found of its face.
+    QHash<std::pair<TextStyle, bool>, QFont> fonts;
 };
 
 Theme::Theme(const Preferences& preferences, const DesktopSettings& desktop)
@@ -157,16 +181,23 @@ QColor Theme::color(Token token) const {
 }
 
 QFont Theme::font(TextStyle style) const {
+    return font(style, color(Token::ink));
+}
+
+QFont Theme::font(TextStyle style, const QColor& ink) const {
+    const bool isLight = ink.lightnessF() > 0.5F;
     auto& made = subscriptions_->fonts;
-    if (const auto found = made.constFind(style); found != made.constEnd()) return *found;
+    if (const auto found = made.constFind({style, isLight}); found != made.constEnd())
+        return *found;
     const auto& row = rowOf(style);
     QFont font;
     font.setFamilies(families(row.face));
     font.setPixelSize(scaled(row.size));
-    font.setWeight(row.weight);
+    const bool growsHeavy = row.face != Face::mono && isOurs() && isLight;
+    font.setWeight(growsHeavy ? lighter(row.weight) : row.weight);
     // Ligatures of a mono face would join the hyphens of "--name".
     if (row.face == Face::mono) font.setStyleStrategy(QFont::PreferNoShaping);
-    made.insert(style, font);
+    made.insert({style, isLight}, font);
     return font;
 }
 
