@@ -86,6 +86,12 @@ const std::vector<ColorProfiles::NamedSpace>& ColorProfiles::rgbSpaces() {
 }
 
 void ColorProfiles::selectRGB(std::string_view name) {
+    // The others are made when one of them is asked for.
+    if (const auto usual = ColourSpace::sRGB(); usual && usual->localizedName() == name) {
+        selectedRGB_ = name;
+        rgbSpace_.store(usual.get(), std::memory_order_release);
+        return;
+    }
     const auto& spaces = rgbSpaces();
     const auto found = std::find_if(spaces.begin(), spaces.end(),
                                     [name](const auto& each) { return each.name == name; });

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QApplication>
 #include <clocale>
 
@@ -15,7 +14,6 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     // What a key press or a drop brings is seen at once.
     QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
-    QAccessible::setActive(true);
     tintra::installPanelAccessibility();
     tintra::installCanvasAccessibility();
     return RUN_ALL_TESTS();

@@ -23,7 +23,7 @@ void pasteColours(const Context& context) {
     auto& to = state(context);
     const auto held = context.ui.services.clipboard.content();
     if (!held.text.empty()) {
-        to.receiveText(held.text);
+        receiveText(context.ui, to, held.text);
         return;
     }
     if (held.colour) {

@@ -108,7 +108,11 @@ WashColor EditorPanel::asWritten(const WashColor& read) const {
     const auto inSpace = space.toSrgb({read.r, read.g, read.b, 0});
     if (!inSpace) return read;
     const WashColor meant{inSpace->r, inSpace->g, inSpace->b, read.a};
-    return PasteColours::colour(toUtf8(codeOf(*at, meant))) == read ? meant : read;
+    const auto isShownSo = [&](const WashColor& color) {
+        return PasteColours::colour(toUtf8(codeOf(*at, color))) == read;
+    };
+    // Codes that are no bytes are of sRGB, and clip what lies beyond.
+    return !isShownSo(read) && isShownSo(meant) ? meant : read;
 }
 
 void EditorPanel::dropTyped() {

@@ -1,5 +1,6 @@
 #include "ui/editor/PickerControl.h"
 
+#include "ui/shared/AccessibilityEvents.h"
 #include "ui/shared/Theme.h"
 
 #include <QAccessible>
@@ -77,13 +78,13 @@ void PickerControl::paintThumb(QPainter& painter, QPointF centre, const QColor& 
 }
 
 void PickerControl::announce() {
-    if (!QAccessible::isActive()) return;
+    if (!isAccessibilityHeard()) return;
     if (const auto one = scale()) {
         QAccessibleValueChangeEvent event(this, one->value);
-        QAccessible::updateAccessibility(&event);
+        tellAccessibility(event);
     } else {
         QAccessibleEvent event(this, QAccessible::DescriptionChanged);
-        QAccessible::updateAccessibility(&event);
+        tellAccessibility(event);
     }
 }
 

@@ -72,6 +72,8 @@ protected:
 
 private:
     void subscribe();
+    /// The swatch that is edited, and the one that was.
+    void showEdited();
     SwatchPlaces places(QSizeF size) const;
     SwatchLook look(std::size_t at) const;
     QString code(std::size_t at, const std::string& name) const;
@@ -107,6 +109,7 @@ private:
     QPointF pressedAt_;
     std::optional<std::size_t> insertion_; ///< where a drop would go
     std::optional<Drag> offered_;          ///< what is dragged over the canvas
+    std::optional<std::size_t> edited_;    ///< whose colour the editor has
     QPointF draggedAt_;
     std::unique_ptr<DelayedTask> scrolling_; ///< while the drag rests near an edge
     std::optional<std::size_t> flashing_;    ///< whose code was just copied

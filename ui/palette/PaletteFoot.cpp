@@ -41,6 +41,7 @@ QString countOfPalette(const AppState& state) {
 QString countOfBands(const AppState& state) {
     const auto& bands = state.bands();
     const auto colours = bands.empty() ? 0 : static_cast<qsizetype>(bands.front().size());
+    if (state.mode.value() == HarmonyMode::ramp) return worded("%n step", "%n steps", colours);
     if (bands.size() == 1) return worded("%n colour", "%n colours", colours);
     return worded("%n band of %1", "%n bands of %1", static_cast<qsizetype>(bands.size()))
         .arg(colours);
@@ -63,7 +64,7 @@ PaletteFoot::PaletteFoot(Ui& ui, AppState& state, ContextOf context, QWidget* pa
     chip_->drag = [this] { dragColour(); };
     count_->paint = [this](QPainter& painter, const QRect& in) {
         painter.setFont(ui_.theme.font(TextStyle::body));
-        painter.setPen(ui_.theme.color(Token::ink2));
+        painter.setPen(ui_.theme.color(Token::ink3));
         drawFigures(painter, in, Qt::AlignVCenter | Qt::AlignRight, countText());
     };
     count_->drag = [this] { dragPalette(); };
@@ -122,6 +123,13 @@ void PaletteFoot::setMove(std::optional<std::pair<std::size_t, std::size_t>> mov
     layOut();
 }
 
+QString PaletteFoot::hint() const {
+    if (target_ || state_.mode.value() != HarmonyMode::paletteBuilder) return {};
+    return state_.swatches().empty()
+               ? worded("Drop colours, palette files or a picture anywhere in this window")
+               : worded("No swatch selected");
+}
+
 QString PaletteFoot::countText() const {
     if (move_) return worded("Moving %1 to %2").arg(move_->first + 1).arg(move_->second + 1);
     return state_.mode.value() == HarmonyMode::paletteBuilder ? countOfPalette(state_)
@@ -144,6 +152,7 @@ void PaletteFoot::sync() {
     }
     chip_->setAccessibleName(name_.isEmpty() ? code_ : name_);
     chip_->setToolTip(worded("Drag the colour"));
+    setAccessibleDescription(hint());
     vision_->setText(shown(title(state_.vision.value())));
     vision_->setAccessibleName(worded("Vision: %1").arg(vision_->text()));
     vision_->setInverted(state_.vision.value() != Vision::typical);
@@ -206,12 +215,16 @@ int PaletteFoot::layOutFacts() {
     };
     add(*format_, format_->sizeHint().width(), kGroupGap);
     add(*vision_, vision_->sizeHint().width(), kGap);
-    add(*count_, countWidth, kGap);
+    if (state_.swatches().empty() && state_.mode.value() == HarmonyMode::paletteBuilder)
+        count_->hide();
+    else
+        add(*count_, countWidth, kGap);
     return left;
 }
 
 void PaletteFoot::layOutColour(int right) {
     namePlace_ = codePlace_ = {};
+    hintPlace_ = {kSide, 0, right - kSide, height()};
     if (!target_) return;
     const QFontMetrics words(ui_.theme.font(TextStyle::name)),
         mono(ui_.theme.font(TextStyle::code));
@@ -241,6 +254,11 @@ void PaletteFoot::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const auto& theme = ui_.theme;
     painter.fillRect(rect(), theme.color(Token::panel));
+    // Where surfaces do not differ, and under the bar of a picture.
+    const bool isBelowBar =
+        state_.isPictureWindowOpen.value() && state_.imageSource.value().picture;
+    if (theme.isHighContrast() || isBelowBar)
+        painter.fillRect(0, 0, width(), 1, theme.color(Token::line));
     if (compact_) return;
     const auto write = [&](const QRect& in, TextStyle style, Token ink, const QString& text) {
         const auto font = theme.font(style);
@@ -249,6 +267,10 @@ void PaletteFoot::paintEvent(QPaintEvent*) {
         painter.drawText(in, Qt::AlignVCenter | Qt::AlignLeft,
                          QFontMetrics(font).elidedText(text, Qt::ElideRight, in.width()));
     };
+    const auto words = QFontMetrics(theme.font(TextStyle::body)).horizontalAdvance(hint());
+    // What to do with an empty palette is said as far as there is room, the other whole or not.
+    if (state_.swatches().empty() || words <= hintPlace_.width())
+        write(hintPlace_, TextStyle::body, Token::ink3, hint());
     write(namePlace_, TextStyle::name, Token::ink, name_);
     write(codePlace_, TextStyle::code, Token::ink2, code_);
     if (!format_->isHidden() && !vision_->isHidden())

@@ -10,6 +10,7 @@
 
 #include <QMenu>
 #include <QPainter>
+#include <algorithm>
 #include <array>
 
 namespace tintra {
@@ -76,7 +77,11 @@ void PaletteToolBar::subscribe() {
     const auto again = [this] { sync(); };
     subscriptions_.add(state_.mode, again);
     subscriptions_.add(state_.customPaletteVersion(), again);
-    subscriptions_.add(state_.editorBuffer, again);
+    subscriptions_.add(state_.editorBuffer, [this] {
+        // Every step of a slider comes here.
+        const auto editor = std::ranges::find(tools_, ActionId::colourEditor, &Tool::action);
+        if (editor->button->isChecked() != state_.editorBuffer.value().has_value()) sync();
+    });
     subscriptions_.add(state_.isPictureWindowOpen, again);
     subscriptions_.add(state_.attachment(), again);
     subscriptions_.add(ui_.models.preferences().paletteViews, again);
@@ -157,6 +162,9 @@ void PaletteToolBar::resizeEvent(QResizeEvent*) {
 void PaletteToolBar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), ui_.theme.color(Token::panel));
+    // Where surfaces do not differ a line parts them; in a harmony the seeds have it.
+    if (ui_.theme.isHighContrast() && state_.mode.value() == HarmonyMode::paletteBuilder)
+        painter.fillRect(0, height() - 1, width(), 1, ui_.theme.color(Token::line));
     constexpr int kLine = 20;
     for (const auto& tool : tools_)
         if (tool.opensGroup && !tool.button->isHidden())

@@ -14,7 +14,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QContextMenuEvent>
+#include <QDrag>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -48,8 +50,8 @@ PaletteWindow::PaletteWindow(Ui& ui, AppState& state)
     syncPanels();
     restoreFrame();
     syncOnTop();
-    syncCollapsed();
     parts_->body->main()->setFocus();
+    syncCollapsed();
 }
 
 PaletteWindow::~PaletteWindow() = default;
@@ -249,12 +251,22 @@ bool PaletteWindow::isOnCanvas() const {
 
 void PaletteWindow::closeNow() {
     parts_->isClosing = true;
+    // What is dragged belongs to the canvas, which goes.
+    QDrag::cancel();
     close();
 }
 
 void PaletteWindow::closeEvent(QCloseEvent* event) {
     event->setAccepted(parts_->isClosing);
-    if (!parts_->isClosing) ui_.windows.closePalette(state_.id());
+    if (parts_->isClosing) return;
+    finishTyping();
+    ui_.windows.closePalette(state_.id());
+}
+
+void PaletteWindow::finishTyping() {
+    // A field takes what was typed when it loses the keyboard.
+    if (qobject_cast<QLineEdit*>(focusWidget()))
+        parts_->body->main()->setFocus(Qt::OtherFocusReason);
 }
 
 void PaletteWindow::changeEvent(QEvent* event) {

@@ -50,6 +50,8 @@ public:
     /// Gives the keyboard to the next (1) or the previous (-1) region.
     void focusRegion(int by);
     void showContextMenu();
+    /// What is being typed counts as typed: before the window is asked about changes.
+    void finishTyping();
     /// Closes without asking; the model is gone after this.
     void closeNow();
 
@@ -76,8 +78,8 @@ private:
     void syncPanels();
     void syncCollapsed();
     void syncOnTop();
-    void setFlagInPlace(Qt::WindowType flag, bool on);
     void popUp(QPoint at, void (*fill)(QMenu&, const ActionContext&));
+    void setFlagInPlace(Qt::WindowType flag, bool on);
     /// The keyboard is where single letters are commands.
     bool isOnCanvas() const;
     std::vector<QWidget*> regions() const;

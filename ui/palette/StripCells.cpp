@@ -151,6 +151,7 @@ std::vector<CanvasItem> StripCells::layoutItems(QSizeF size) const {
 void StripCells::paintGround(QPainter& painter, const QRect& dirty) {
     painter.fillRect(dirty, theme().color(Token::panel));
     if (!items().empty()) return;
+    painter.setRenderHint(QPainter::Antialiasing);
     const auto place = QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75);
     painter.setPen(QPen(theme().color(Token::edge), 1.5, Qt::DashLine));
     painter.drawRoundedRect(place, metrics::kControlRadius, metrics::kControlRadius);

@@ -1,5 +1,6 @@
 #include "ui/program/Application.h"
 
+#include "colour/ColorNames.h"
 #include "state/Preferences.h"
 #include "state/Workspaces.h"
 #include "ui/exporting/ExportDialogue.h"
@@ -51,6 +52,8 @@ Application::Application(Surroundings surroundings)
                                                    *this,   notices_},
       requests_(ui_),
       sessionEnd_({.keep = [this] { models_.keep(); }, .leave = [this] { leave(); }}) {
+    // The first colours that are shown need their names: they are read beside all that follows.
+    services_.services().background.run([] { ColorNames::shared().loadIfNeeded(); });
     installPanelAccessibility();
     installCanvasAccessibility();
     dialogues_.setTheme(theme_);
@@ -183,6 +186,8 @@ void Application::openAcknowledgements() {
 }
 
 void Application::quit() {
+    for (auto* window : palettes())
+        window->finishTyping();
     models_.quit([](bool quits) {
         // Not QApplication::quit, which would close every window again, each with its question.
         if (quits) QApplication::exit();
@@ -190,6 +195,8 @@ void Application::quit() {
 }
 
 void Application::leave() {
+    for (auto* window : palettes())
+        window->finishTyping();
     models_.keep();
     QApplication::exit();
 }

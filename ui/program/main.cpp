@@ -4,6 +4,7 @@
 #include "ui/program/NoDisplay.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <cstdio>
 #include <optional>
 
@@ -50,6 +51,7 @@ int main(int argc, char** argv) {
 
     Application application;
     service.serve(application.requests().forService());
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/tintra.svg")));
     application.start(line.files);
     if (line.newPalette) application.requests().openNew();
     return QApplication::exec();

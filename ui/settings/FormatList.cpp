@@ -101,12 +101,13 @@ void FormatList::paintItem(QPainter& painter, const CanvasItem& item, ItemState 
         painter.setBrush(theme().color(item.selected ? Token::sel : Token::hover));
         painter.drawRoundedRect(item.rect, metrics::kChipRadius, metrics::kChipRadius);
     }
-    auto font = theme().font(isHeading ? TextStyle::caption : TextStyle::body);
+    const auto ink = theme().color(item.selected ? Token::onsel
+                                   : isHeading   ? Token::ink3
+                                                 : Token::ink);
+    auto font = theme().font(isHeading ? TextStyle::caption : TextStyle::body, ink);
     if (isHeading) font.setWeight(QFont::DemiBold);
     painter.setFont(font);
-    painter.setPen(theme().color(item.selected ? Token::onsel
-                                 : isHeading   ? Token::ink3
-                                               : Token::ink));
+    painter.setPen(ink);
     const auto end = isHeading ? kSide : theme().scaled(kStarPlace);
     const auto words = item.rect.adjusted(kSide, isHeading ? 8 : 0, -end, 0);
     painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter,

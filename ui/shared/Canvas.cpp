@@ -1,5 +1,6 @@
 #include "ui/shared/Canvas.h"
 
+#include "ui/shared/AccessibilityEvents.h"
 #include "ui/shared/Theme.h"
 
 #include <QCoreApplication>
@@ -90,34 +91,39 @@ void Canvas::activate(int) {
 }
 
 void Canvas::announce(QAccessible::Event what, int item) {
-    if (item < 0 || !QAccessible::isActive()) return;
+    if (item < 0 || !isAccessibilityHeard()) return;
     QAccessibleEvent event(this, what);
     event.setChild(item);
-    QAccessible::updateAccessibility(&event);
+    tellAccessibility(event);
 }
 
 void Canvas::announceChanges(const std::vector<CanvasItem>& before) {
-    if (!QAccessible::isActive()) return;
+    if (!isAccessibilityHeard()) return;
     if (before.size() != items_.size()) {
         QAccessibleEvent event(this, QAccessible::ObjectReorder);
-        QAccessible::updateAccessibility(&event);
+        tellAccessibility(event);
+        // Another one may stand where the focus is.
+        if (hasFocus()) announce(QAccessible::Focus, focused_);
         return;
     }
-    for (std::size_t i = 0; i < items_.size(); ++i) {
-        const auto &was = before[i], &is = items_[i];
-        const auto item = static_cast<int>(i);
-        if (was.name != is.name) announce(QAccessible::NameChanged, item);
-        if (was.value != is.value || was.description != is.description)
-            announce(QAccessible::DescriptionChanged, item);
-        if (was.selected != is.selected)
-            announce(is.selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove, item);
-        if (was.checked == is.checked) continue;
-        QAccessible::State which;
-        which.checked = true;
-        QAccessibleStateChangeEvent event(this, which);
-        event.setChild(item);
-        QAccessible::updateAccessibility(&event);
-    }
+    for (std::size_t i = 0; i < items_.size(); ++i)
+        announceChange(before[i], static_cast<int>(i));
+}
+
+void Canvas::announceChange(const CanvasItem& was, int item) {
+    if (!isAccessibilityHeard()) return;
+    const auto& is = items_[static_cast<std::size_t>(item)];
+    if (was.name != is.name) announce(QAccessible::NameChanged, item);
+    if (was.value != is.value || was.description != is.description)
+        announce(QAccessible::DescriptionChanged, item);
+    if (was.selected != is.selected)
+        announce(is.selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove, item);
+    if (was.checked == is.checked) return;
+    QAccessible::State which;
+    which.checked = true;
+    QAccessibleStateChangeEvent event(this, which);
+    event.setChild(item);
+    tellAccessibility(event);
 }
 
 void Canvas::markSelected(int item) {
@@ -158,6 +164,12 @@ void Canvas::layOut() {
     hovered_ = underMouse() ? itemAt(mapFromGlobal(QCursor::pos())) : -1;
     announceChanges(old);
     if (changed) changed();
+}
+
+void Canvas::setItem(int item, CanvasItem now) {
+    const auto was = std::exchange(items_[static_cast<std::size_t>(item)], std::move(now));
+    repaintItem(item);
+    announceChange(was, item);
 }
 
 void Canvas::repaintItem(int item) {
@@ -221,14 +233,15 @@ bool Canvas::event(QEvent* event) {
 void Canvas::paintEvent(QPaintEvent* event) {
     layOut();
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::TextAntialiasing);
+    // Smooth edges of the ground would let through what lies beneath, at ratios such as 1.25.
     paintGround(painter, event->rect());
+    painter.setRenderHint(QPainter::Antialiasing);
     const auto beyond = overhang();
-    const QRectF dirty = event->rect().adjusted(-beyond, -beyond, beyond, beyond);
+    const auto& dirty = event->region();
     const bool ring = showsFocus();
     for (std::size_t i = 0; i < items_.size(); ++i) {
-        if (!items_[i].rect.intersects(dirty)) continue;
+        const auto covers = items_[i].rect.toAlignedRect();
+        if (!dirty.intersects(covers.adjusted(-beyond, -beyond, beyond, beyond))) continue;
         const auto item = static_cast<int>(i);
         painter.save();
         paintItem(painter, items_[i],
@@ -301,7 +314,7 @@ void Canvas::focusInEvent(QFocusEvent* event) {
     const auto tell = [this] {
         if (hasFocus()) announce(QAccessible::Focus, focused_);
     };
-    if (QAccessible::isActive()) QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+    if (isAccessibilityHeard()) QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void Canvas::focusOutEvent(QFocusEvent* event) {

@@ -68,6 +68,7 @@ protected:
 
     /// The items for a size, from back to front.
     virtual std::vector<CanvasItem> layoutItems(QSizeF size) const = 0;
+    /// Covers all of `dirty`; the painter does not smooth edges.
     virtual void paintGround(QPainter& painter, const QRect& dirty);
     virtual void paintItem(QPainter& painter, const CanvasItem& item, ItemState state) = 0;
     /// After all items: insertion bars, rings that overlap neighbours.
@@ -86,6 +87,8 @@ protected:
     virtual bool activates(const CanvasItem& item) const;
     /// Makes one item the selected one (-1: none), without laying out anew.
     void markSelected(int item);
+    /// Puts an item in the place of one that has the same rectangle, without laying out anew.
+    void setItem(int item, CanvasItem now);
     /// How far beyond its rectangle an item paints, px.
     virtual int overhang() const { return 6; }
 
@@ -103,6 +106,7 @@ private:
     void announce(QAccessible::Event what, int item);
     /// Tells accessibility how the items differ from those before.
     void announceChanges(const std::vector<CanvasItem>& before);
+    void announceChange(const CanvasItem& was, int item);
     int pageNeighbour(int from, bool forward) const;
 
     Theme& theme_;

@@ -224,6 +224,13 @@ int TintraStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
         return 0;
     case SH_Widget_Animation_Duration:
         return theme_.milliseconds(120);
+    case SH_Menu_Mask:
+    case SH_ToolTip_Mask:
+        if (auto* mask = qstyleoption_cast<QStyleHintReturnMask*>(data); mask && option) {
+            mask->region = StyleParts::roundRegion(option->rect);
+            return 1;
+        }
+        return 0;
     case SH_ToolTip_WakeUpDelay:
         return 500;
     default:

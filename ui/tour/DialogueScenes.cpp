@@ -53,9 +53,10 @@ QImage notices(Stage& stage) {
     auto& state = stage.state();
     state.selectedSwatch = 2;
     state.removeSwatch(7);
-    auto removed = stage.grab(stage.window());
+    stage.perform(ActionId::undo);
+    const auto undone = stage.grab(stage.window());
     state.addToPalette(colour("3e7cb1"), AppState::Duplicates::refuse);
-    return sheet({removed, stage.grab(stage.window())}, 1);
+    return sheet({undone, stage.grab(stage.window())}, 1);
 }
 
 constexpr std::array kScenes{

@@ -59,7 +59,7 @@ QImage spaces(Stage& stage) {
 
 constexpr std::array kScenes{
     Scene{"palette-editor", kBoth, editor},
-    Scene{"colour-editor-spaces", kBoth, spaces},
+    Scene{"colour-editor-spaces", kLight, spaces},
 };
 
 } // namespace

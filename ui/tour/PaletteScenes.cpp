@@ -133,13 +133,13 @@ QImage collapsed(Stage& stage) {
     stage.perform(ActionId::collapse);
     window.resize(560, 44);
     stage.settle();
-    stage.point(window, {240, 22});
+    stage.click(window, {240, 22});
     const auto lying = stage.grab(window);
     stage.state().compactOrientation = CompactOrientation::vertical;
     stage.settle();
     window.resize(52, 480);
     stage.settle();
-    stage.point(window, {26, 100});
+    stage.click(window, {26, 100});
     return sheet({lying, stage.grab(window)}, 2);
 }
 
@@ -166,7 +166,7 @@ constexpr std::array kScenes{
     Scene{"palette-empty", kBoth, empty},         Scene{"palette-ramp", kBoth, ramp},
     Scene{"palette-triadic", kBoth, triadic},     Scene{"palette-dragging", kBoth, dragging},
     Scene{"palette-narrow", kBoth, narrow},       Scene{"strip-collapsed", kBoth, collapsed},
-    Scene{"palette-backdrops", kBoth, backdrops},
+    Scene{"palette-backdrops", kLight, backdrops},
 };
 
 } // namespace

@@ -25,7 +25,7 @@ QImage pane(Stage& stage) {
     stage.settle();
     state.applyExtraction();
     stage.settle();
-    state.addPin({120, 500});
+    state.addPin({150, 480});
     stage.settle();
     stage.window().notices().dismiss();
     state.selectedSwatch = 2;

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QObject>
+#include <QPainter>
 #include <QStyleFactory>
 #include <QTimer>
 #include <cstdint>
@@ -30,7 +31,7 @@ public:
 
 private:
     // With this one an empty window shows the quotation that the guide shows.
-    std::uint64_t state_ = 3;
+    std::uint64_t state_ = 6;
 };
 
 /// Work in the order in which it was given, between two events.
@@ -89,8 +90,9 @@ PaletteWindow& Stage::window() {
 void Stage::fill(const Palette& palette, QSize size) {
     window().resize(size);
     state().replacePalette(palette.colours, palette.names);
-    if (!palette.name.empty())
-        state().saveAs(folder() / (palette.name + ".ase"), ExportFormat::ase);
+    const auto home = folder() / "Design" / "Palettes";
+    std::filesystem::create_directories(home);
+    if (!palette.name.empty()) state().saveAs(home / (palette.name + ".ase"), ExportFormat::ase);
     settle();
     window().notices().dismiss();
     ui().models.undo().discardEntries(state().id());
@@ -156,7 +158,15 @@ std::filesystem::path Stage::folder() const {
 
 QImage Stage::grab(QWidget& widget) {
     settle();
-    return widget.grab().toImage();
+    const auto whole = widget.grab().toImage();
+    if (widget.mask().isEmpty()) return whole;
+    QImage shown(whole.size(), QImage::Format_ARGB32_Premultiplied);
+    shown.setDevicePixelRatio(whole.devicePixelRatio());
+    shown.fill(Qt::transparent);
+    QPainter painter(&shown);
+    painter.setClipRegion(widget.mask());
+    painter.drawImage(0, 0, whole);
+    return shown;
 }
 
 } // namespace tintra::tour

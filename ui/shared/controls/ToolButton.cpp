@@ -14,7 +14,7 @@ constexpr int kIcon = 20, kSmallIcon = 16, kBadge = 16;
 
 void paintBadge(QPainter& painter, const Theme& theme, const QRectF& button, int count) {
     const auto text = count > 99 ? QStringLiteral("99+") : QString::number(count);
-    painter.setFont(theme.font(TextStyle::caption));
+    painter.setFont(theme.font(TextStyle::caption, theme.color(Token::onsel)));
     const auto width = std::max<qreal>(kBadge, figuresWidth(painter.font(), text) + 8);
     const QRectF place(button.right() - width + 4, button.top() - 1, width, kBadge);
     painter.setPen(QPen(theme.color(Token::panel), 1.5));
