@@ -34,6 +34,7 @@ chain() { # NAME KILLS
     folder=$scratch/$1
     mkdir "$folder"
     before=0
+    newest=0 # the later of the two records, which need not have been written together
     most=0
     kill=0
     while [ "$kill" -lt "$2" ]; do
@@ -51,7 +52,7 @@ chain() { # NAME KILLS
         must=$3
         last=$4
         [ "$must" -gt "$before" ] || must=$before
-        [ "$last" -gt "$before" ] || last=$before
+        [ "$last" -gt "$newest" ] || last=$newest
         echo "$found" | awk -v must="$must" -v last="$last" '
             $1 == "primary" { fits = $2 >= must && $2 <= last && $4 >= must && $4 <= last; before = $2 }
             $1 != "primary" { wrong = 1 }
@@ -60,6 +61,7 @@ chain() { # NAME KILLS
             return 1
         }
         before=$(echo "$found" | awk '{ print $2 < $4 ? $2 : $4 }')
+        newest=$(echo "$found" | awk '{ print $2 > $4 ? $2 : $4 }')
         gap=$(lost "$folder/out" "$end" "$before")
         [ "$gap" -le "$most" ] || most=$gap
         if find "$folder" -name '*damaged*' | grep .; then return 1; fi

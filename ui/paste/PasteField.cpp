@@ -26,6 +26,11 @@ PasteField::PasteField(Ui& ui, QWidget* parent)
     connect(editor_, &QPlainTextEdit::textChanged, margin_, [this] { margin_->update(); });
 }
 
+// The editor still tells of changes while it goes, when the field is gone already.
+PasteField::~PasteField() {
+    editor_->disconnect(margin_);
+}
+
 void PasteField::setRefused(bool refused) {
     refused_ = refused;
     update();

@@ -13,6 +13,7 @@ namespace tintra {
 class PasteField final : public QWidget {
 public:
     PasteField(Ui& ui, QWidget* parent);
+    ~PasteField() override;
 
     PasteEditor& editor() const { return *editor_; }
     PasteMargin& margin() const { return *margin_; }
