@@ -60,8 +60,8 @@ chain() { # NAME KILLS
             echo "FAILED: chain $1, kill $kill: from $must to $last expected, found: $found"
             return 1
         }
-        before=$(echo "$found" | awk '{ print $2 < $4 ? $2 : $4 }')
-        newest=$(echo "$found" | awk '{ print $2 > $4 ? $2 : $4 }')
+        before=$(echo "$found" | awk '{ print ($2 < $4) ? $2 : $4 }')
+        newest=$(echo "$found" | awk '{ print ($2 > $4) ? $2 : $4 }')
         gap=$(lost "$folder/out" "$end" "$before")
         [ "$gap" -le "$most" ] || most=$gap
         if find "$folder" -name '*damaged*' | grep .; then return 1; fi
