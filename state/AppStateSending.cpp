@@ -85,18 +85,13 @@ void AppState::sendToContrast(const WashColor& colour, std::optional<std::string
 
 void AppState::sendAllToContrast() {
     if (swatches().empty()) return;
+    std::vector<PaletteFile::Swatch> all;
+    for (const auto& swatch : swatches())
+        all.push_back({swatch.color, swatch.name});
+    contrastSending(context_, place()).sendAll(all);
     auto& board = context_.contrast;
-    ContrastBatch batch{swatches().size(), 0, 0, board.entries().size()};
-    for (const auto& swatch : swatches()) {
-        if (board.held(swatch.color))
-            ++batch.already;
-        else if (board.send(swatch.name, swatch.color))
-            ++batch.sent;
-    }
     if (board.entries().size() >= 3) board.mode = ContrastBoard::Mode::matrix;
     if (const auto& open = context_.preferences.windows.openContrastWindow) open();
-    if (auto text = contrastBatchText(batch, ContrastBoard::kCapacity))
-        toast(*std::move(text), kBriefly);
 }
 
 void AppState::toggleContrast(const WashColor& colour, std::optional<std::string> name,

@@ -77,15 +77,44 @@ void ContrastSending::send(const WashColor& colour, std::optional<std::string> n
     say(roleInContrastText(colour, as, sent->letGo), undoOf(board_, *sent));
 }
 
+void ContrastSending::sendAll(std::span<const PaletteFile::Swatch> swatches) const {
+    ContrastBatch batch{swatches.size(), 0, 0, board_.entries().size()};
+    for (const auto& swatch : swatches) {
+        if (board_.held(swatch.color))
+            ++batch.already;
+        else if (board_.send(swatch.name, swatch.color))
+            ++batch.sent;
+    }
+    if (auto text = contrastBatchText(batch, ContrastBoard::kCapacity)) say(*std::move(text));
+}
+
 void ContrastSending::toggle(const WashColor& colour, std::optional<std::string> name) const {
-    const auto* held = board_.held(colour);
-    if (!held) {
+    if (const auto* held = board_.held(colour))
+        remove(Uuid(held->id));
+    else
         send(colour, std::move(name));
+}
+
+void ContrastSending::remove(const Uuid& id) const {
+    const auto* entry = board_.entry(id);
+    if (entry == nullptr) return;
+    auto text = tookOffContrastText(entry->color);
+    auto before = board_.content().value();
+    board_.remove(id);
+    say(std::move(text), undoOf(board_, std::move(before)));
+}
+
+void ContrastSending::replace(const Uuid& id, const WashColor& colour) const {
+    const auto* entry = board_.entry(id);
+    if (entry == nullptr) return;
+    if (const auto* holder = board_.held(colour)) {
+        if (holder->id != id) say(alreadyInContrastText(colour));
         return;
     }
+    auto text = replacedInContrastText(entry->color, colour);
     auto before = board_.content().value();
-    board_.remove(Uuid(held->id));
-    say(tookOffContrastText(colour), undoOf(board_, std::move(before)));
+    board_.replace(id, colour);
+    say(std::move(text), undoOf(board_, std::move(before)));
 }
 
 void ContrastSending::sortByLightness(bool lightestFirst) const {

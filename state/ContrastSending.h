@@ -2,9 +2,11 @@
 
 #include "colour/Contrast.h"
 #include "colour/WashColor.h"
+#include "palettes/Swatch.h"
 #include "platform/Toasts.h"
 
 #include <optional>
+#include <span>
 #include <string>
 
 namespace tintra {
@@ -22,8 +24,14 @@ public:
     void send(const WashColor& colour, std::optional<std::string> name) const;
     /// The same, and gives it the role; one that is held already takes the role.
     void send(const WashColor& colour, std::optional<std::string> name, Contrast::Role as) const;
+    /// Fills the board up, and never lets go of an entry.
+    void sendAll(std::span<const PaletteFile::Swatch> swatches) const;
     /// Sends it, or takes it off when the board holds it.
     void toggle(const WashColor& colour, std::optional<std::string> name) const;
+    /// Takes an entry off.
+    void remove(const Uuid& id) const;
+    /// Another colour for an entry; one that another entry holds is refused.
+    void replace(const Uuid& id, const WashColor& colour) const;
     /// Offers to undo what it changed.
     void sortByLightness(bool lightestFirst) const;
 

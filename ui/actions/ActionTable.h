@@ -69,6 +69,27 @@ enum class ActionId {
     removeSwatch,
     // Bench
     // Contrast
+    showPair,
+    showMatrix,
+    showLadder,
+    measureWcag,
+    measureApca,
+    contrastTarget,
+    useAsText,
+    useAsGround,
+    swapRoles,
+    editSpecimen,
+    sortDarkToLight,
+    sortLightToDark,
+    sortByLightness,
+    copyFigure,
+    copyMatrix,
+    addEntryToPalette,
+    putEntryOnBench,
+    renameEntry,
+    moveEntryUp,
+    moveEntryDown,
+    removeEntry,
     // Library
     // View
     columns,

@@ -43,6 +43,15 @@ constexpr MenuRow kSwatch[] = {copy,         copyAs,          renameSwatch,     
                                kLine,        duplicateSwatch, moveLeft,          moveRight,
                                kLine,        sendToPhotoshop, sendToIllustrator, kLine,
                                removeSwatch};
+constexpr MenuRow kContrast[] = {
+    showPair,        showMatrix,      showLadder,      kLine,         measureWcag,
+    measureApca,     contrastTarget,  kLine,           useAsText,     useAsGround,
+    swapRoles,       editSpecimen,    kLine,           copyFigure,    copyMatrix,
+    kLine,           sortDarkToLight, sortLightToDark, kLine,         addEntryToPalette,
+    putEntryOnBench, renameEntry,     moveEntryUp,     moveEntryDown, removeEntry};
+constexpr MenuRow kContrastEntry[] = {
+    useAsText, useAsGround, kLine,       copy,          copyAs, addEntryToPalette, putEntryOnBench,
+    kLine,     renameEntry, moveEntryUp, moveEntryDown, kLine,  removeEntry};
 constexpr MenuRow kView[] = {columns, tiles,      kLine, colourEditor, picturePane, kLine,
                              vision,  codeFormat, kLine, collapse,     alwaysOnTop, showMenuBar};
 constexpr MenuRow kWindow[] = {openLibrary, openBench, openContrast};
@@ -61,7 +70,7 @@ const std::array kMenus{
     MenuOfBar{MenuId::palette, "Palette", kPalette, WindowKind::palette},
     MenuOfBar{MenuId::swatch, "Swatch", kSwatch, WindowKind::palette},
     MenuOfBar{MenuId::bench, "Bench", {}, WindowKind::bench},
-    MenuOfBar{MenuId::contrast, "Contrast", {}, WindowKind::contrast},
+    MenuOfBar{MenuId::contrast, "Contrast", kContrast, WindowKind::contrast},
     MenuOfBar{MenuId::library, "Library", {}, WindowKind::library},
     MenuOfBar{MenuId::view, "View", kView},
     MenuOfBar{MenuId::window, "Window", kWindow},
@@ -148,6 +157,10 @@ void fillSwatchMenu(QMenu& menu, const ActionContext& context) {
 
 void fillCanvasMenu(QMenu& menu, const ActionContext& context) {
     addRows(menu, kCanvas, context);
+}
+
+void fillContrastEntryMenu(QMenu& menu, const ActionContext& context) {
+    addRows(menu, kContrastEntry, context);
 }
 
 std::vector<ActionId> actionsOf(MenuId id) {

@@ -27,6 +27,9 @@ void fillSwatchMenu(QMenu& menu, const ActionContext& context);
 /// The context menu of an empty place of a palette's canvas.
 void fillCanvasMenu(QMenu& menu, const ActionContext& context);
 
+/// The context menu of a colour of the contrast window.
+void fillContrastEntryMenu(QMenu& menu, const ActionContext& context);
+
 /// Every row of the menu of the bar, in order; for tests and for the shortcuts window.
 std::vector<ActionId> actionsOf(MenuId id);
 /// "File", "Edit" and so on.

@@ -52,6 +52,8 @@ public:
 
     /// The colour that is selected or has the focus; none where there is none.
     virtual std::optional<ActionTarget> target() const { return std::nullopt; }
+    /// There is something to copy: the target, unless a window knows more.
+    virtual bool canCopy() const { return target().has_value(); }
     /// Copies the target, in the format of the preferences unless another is asked for.
     virtual void copy(std::optional<ColorFormat> as = {});
     /// Where the kind of vision is kept that the window is seen with; null where there is none.

@@ -44,6 +44,11 @@ void ToolLine::addLeft(QWidget* choice) {
     left_.push_back(choice);
 }
 
+void ToolLine::addRight(QWidget* choice) {
+    choice->setParent(this);
+    right_.push_back(choice);
+}
+
 void ToolLine::setWords(const QString& words) {
     words_ = words;
     setAccessibleDescription(words);
@@ -106,6 +111,8 @@ int ToolLine::widthNeeded() const {
     auto width = 2 * kSide + more_->sizeHint().width();
     for (const auto* choice : left_)
         if (!choice->isHidden()) width += choice->sizeHint().width() + kLeftGap;
+    for (const auto* choice : right_)
+        if (!choice->isHidden()) width += choice->sizeHint().width() + kLeftGap;
     if (!words_.isEmpty())
         width +=
             static_cast<int>(figuresWidth(ui_.theme.font(TextStyle::body), words_)) + kWordsSide;
@@ -140,6 +147,11 @@ void ToolLine::layOut() {
         right -= tool->button->sizeHint().width();
         place(*tool->button, right);
         right -= tool->opensGroup ? kGroupGap : kGap;
+    }
+    for (auto* choice : right_) {
+        if (choice->isHidden()) continue;
+        right -= choice->sizeHint().width() + kLeftGap - kGap;
+        place(*choice, right);
     }
     update();
 }

@@ -21,6 +21,8 @@ public:
 
     /// What stands at the left, one after the other; it is sized by its hint.
     void addLeft(QWidget* choice);
+    /// What stands before the tools; it is sized by its hint.
+    void addRight(QWidget* choice);
     /// In place of choices.
     void setWords(const QString& words);
     /// A tool that performs an action; a line stands before one that opens a group.
@@ -54,7 +56,7 @@ private:
 
     Ui& ui_;
     ContextOf context_;
-    std::vector<QWidget*> left_;
+    std::vector<QWidget*> left_, right_;
     std::vector<Tool> tools_; ///< left to right, More not among them
     std::vector<QWidget*> leaving_;
     ToolButton* more_;
