@@ -91,7 +91,7 @@ void putOnBench(const Context& context) {
     const auto target = context.window->target();
     if (!target) return;
     auto& bench = context.ui.models.bench();
-    auto text = stagedCopyText(target->color);
+    auto text = addedToBenchText(target->color);
     if (const auto* holder = bench.columnHolding(target->color))
         text = alreadyOnBenchText(target->color, bench.describeOrigin(*holder, {}));
     else
