@@ -67,6 +67,10 @@ std::string tookOffContrastText(const WashColor& color) {
     return fmt::format("Took {} off Contrast", noticeCode(color));
 }
 
+std::string replacedInContrastText(const WashColor& was, const WashColor& is) {
+    return fmt::format("Replaced {} with {}", noticeCode(was), noticeCode(is));
+}
+
 std::string contrastFullText(std::size_t capacity) {
     return fmt::format("Contrast is full at {}", capacity);
 }

@@ -49,6 +49,7 @@ std::string alreadyOnBenchText(const WashColor& color, std::string_view origin);
 
 std::string alreadyInContrastText(const WashColor& color);
 std::string tookOffContrastText(const WashColor& color);
+std::string replacedInContrastText(const WashColor& was, const WashColor& is);
 std::string contrastFullText(std::size_t capacity);
 /// `letGo`: the name of the colour that made room; none when there was room.
 std::string sentToContrastText(const WashColor& color, const std::optional<std::string>& letGo);
