@@ -32,14 +32,16 @@ const ActionRow kRows[] = {
      .raw = "newPaletteHere",
      .text = "New Palette Here",
      .keys = "Ctrl+Shift+N",
+     .in = kEveryWindow,
      .menu = MenuId::file,
      .perform = [](const Context& c) { c.ui.models.workspaces().openExtra(); }},
     {.value = ActionId::open,
      .raw = "open",
      .text = "Open…",
      .keys = "Ctrl+O",
+     .in = kEveryWindow,
      .menu = MenuId::file,
-     .perform = [](const Context& c) { state(c).open(); }},
+     .perform = [](const Context& c) { stateInFront(c).open(); }},
     {.value = ActionId::save,
      .raw = "save",
      .text = "Save",
@@ -53,7 +55,7 @@ const ActionRow kRows[] = {
      .keys = "Ctrl+Shift+S",
      .menu = MenuId::file,
      .isEnabled = hasSwatches,
-     .perform = [](const Context& c) { c.window->showExport(); }},
+     .perform = [](const Context& c) { c.palette->showExport(); }},
     {.value = ActionId::duplicatePalette,
      .raw = "duplicatePalette",
      .text = "Duplicate Palette…",
@@ -96,17 +98,28 @@ const ActionRow kRows[] = {
      .raw = "close",
      .text = "Close",
      .keys = "Ctrl+W",
+     .in = kEveryWindow,
      .menu = MenuId::file,
-     .perform = [](const Context& c) { c.ui.windows.closePalette(state(c).id()); }},
+     .perform = [](const Context& c) { c.window->close(); }},
     {.value = ActionId::quit,
      .raw = "quit",
      .text = "Quit",
      .keys = "Ctrl+Q",
+     .in = kEveryWindow,
      .menu = MenuId::file,
      .perform = [](const Context& c) { c.ui.windows.quit(); }},
 };
 
 } // namespace
+
+AppState& stateInFront(const Context& context) {
+    if (context.palette) return state(context);
+    auto& workspaces = context.ui.models.workspaces();
+    auto* front = workspaces.front();
+    auto& state = front ? *front : workspaces.openPrimary();
+    context.ui.windows.openPalette(state.id());
+    return state;
+}
 
 std::span<const ActionRow> ofFile() {
     return kRows;

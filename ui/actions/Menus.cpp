@@ -1,5 +1,6 @@
 #include "ui/actions/Menus.h"
 
+#include "ui/frame/MainWindow.h"
 #include "ui/shared/Text.h"
 
 #include <QMenu>
@@ -31,8 +32,8 @@ constexpr MenuRow kFile[] = {newPalette,
                              kLine,
                              ActionId::close,
                              quit};
-constexpr MenuRow kEdit[] = {undo,        redo,  kLine, copy,  copyAs,  pasteColours,
-                             typeOrPaste, kLine, clear, kLine, settings};
+constexpr MenuRow kEdit[] = {undo,        redo,  kLine,         copy,  copyAs, pasteColours,
+                             typeOrPaste, kLine, findInLibrary, clear, kLine,  settings};
 constexpr MenuRow kPalette[] = {addBlankSwatch, openPicture,    kLine, harmony,
                                 addHarmony,     clearSeeds,     kLine, sendAllToContrast,
                                 kLine,          libraryPalettes};
@@ -44,7 +45,7 @@ constexpr MenuRow kSwatch[] = {copy,         copyAs,          renameSwatch,     
                                removeSwatch};
 constexpr MenuRow kView[] = {columns, tiles,      kLine, colourEditor, picturePane, kLine,
                              vision,  codeFormat, kLine, collapse,     alwaysOnTop, showMenuBar};
-constexpr MenuRow kWindow[] = {openWindows};
+constexpr MenuRow kWindow[] = {openLibrary, openBench, openContrast};
 constexpr MenuRow kHelp[] = {shortcuts, recentNotices, kLine, acknowledgements, about};
 constexpr MenuRow kCanvas[] = {pasteColours, typeOrPaste, addBlankSwatch, kLine, openPicture};
 
@@ -52,11 +53,18 @@ struct MenuOfBar {
     MenuId id;
     const char* title;
     std::span<const MenuRow> rows;
+    WindowKinds in = kEveryWindow; ///< whose bar it stands in
 };
 const std::array kMenus{
-    MenuOfBar{MenuId::file, "File", kFile},          MenuOfBar{MenuId::edit, "Edit", kEdit},
-    MenuOfBar{MenuId::palette, "Palette", kPalette}, MenuOfBar{MenuId::swatch, "Swatch", kSwatch},
-    MenuOfBar{MenuId::view, "View", kView},          MenuOfBar{MenuId::window, "Window", kWindow},
+    MenuOfBar{MenuId::file, "File", kFile},
+    MenuOfBar{MenuId::edit, "Edit", kEdit},
+    MenuOfBar{MenuId::palette, "Palette", kPalette, WindowKind::palette},
+    MenuOfBar{MenuId::swatch, "Swatch", kSwatch, WindowKind::palette},
+    MenuOfBar{MenuId::bench, "Bench", {}, WindowKind::bench},
+    MenuOfBar{MenuId::contrast, "Contrast", {}, WindowKind::contrast},
+    MenuOfBar{MenuId::library, "Library", {}, WindowKind::library},
+    MenuOfBar{MenuId::view, "View", kView},
+    MenuOfBar{MenuId::window, "Window", kWindow},
     MenuOfBar{MenuId::help, "Help", kHelp},
 };
 
@@ -74,6 +82,7 @@ void addSubmenu(QMenu& menu, const ActionRow& row, const ActionContext& context)
 }
 
 void addRow(QMenu& menu, const ActionRow& row, const ActionContext& context) {
+    if (!row.in.contains(context.window->kind())) return;
     if (row.isShown && !row.isShown(context)) return;
     if (row.fill) {
         addSubmenu(menu, row, context);
@@ -113,22 +122,24 @@ void fillWhenOpened(QMenu& menu, MenuId id, const ContextOf& context) {
 } // namespace
 
 void fillMenu(QMenu& menu, MenuId id, const ActionContext& context) {
-    if (id == MenuId::window) {
-        // The windows themselves, without a menu between.
-        actionRow(openWindows).fill(menu, context);
-        return;
-    }
     addRows(menu, menuOf(id).rows, context);
+    if (id != MenuId::window) return;
+    // The windows themselves, without a menu between.
+    menu.addSeparator();
+    actionRow(openWindows).fill(menu, context);
 }
 
-void fillMenuBar(QMenuBar& bar, const ContextOf& context) {
+void fillMenuBar(QMenuBar& bar, WindowKind kind, const ContextOf& context) {
     for (const auto& menu : kMenus)
-        fillWhenOpened(*bar.addMenu(u'&' + worded(menu.title)), menu.id, context);
+        if (menu.in.contains(kind))
+            fillWhenOpened(*bar.addMenu(u'&' + worded(menu.title)), menu.id, context);
 }
 
 void fillMoreMenu(QMenu& menu, const ContextOf& context) {
+    const auto kind = context().window->kind();
     for (const auto& one : kMenus)
-        fillWhenOpened(*menu.addMenu(worded(one.title)), one.id, context);
+        if (one.in.contains(kind))
+            fillWhenOpened(*menu.addMenu(worded(one.title)), one.id, context);
 }
 
 void fillSwatchMenu(QMenu& menu, const ActionContext& context) {
@@ -144,6 +155,7 @@ std::vector<ActionId> actionsOf(MenuId id) {
     if (id == MenuId::none) return all;
     for (const auto& row : menuOf(id).rows)
         if (row) all.push_back(*row);
+    if (id == MenuId::window) all.push_back(openWindows);
     return all;
 }
 

@@ -4,6 +4,7 @@
 #include "integration/AdobeBridge.h"
 #include "platform/Services.h"
 #include "platform/Toasts.h"
+#include "state/ContrastSending.h"
 #include "state/Models.h"
 #include "state/NoticeTexts.h"
 #include "ui/actions/ActionRows.h"
@@ -14,6 +15,10 @@
 
 namespace tintra::actionRows {
 namespace {
+
+/// Those whose colours are sent to Contrast.
+constexpr auto kSendingWindows =
+    WindowKinds(WindowKind::palette) | WindowKind::bench | WindowKind::library;
 
 bool isBenched(const Context& context) {
     const auto target = context.window->target();
@@ -31,17 +36,19 @@ void toggleBench(const Context& context) {
     });
 }
 
+ContrastSending contrastFrom(const Context& context) {
+    return {context.ui.models.contrast(), context.ui.services.toasts, context.window->place()};
+}
+
 void sendToContrast(const Context& context) {
-    withTarget(context, [](AppState& of, const Target& target) {
-        of.sendToContrast(target.color, target.name, of.place());
-    });
+    if (const auto target = context.window->target())
+        contrastFrom(context).send(target->color, target->name);
 }
 
 template <Contrast::Role role>
 void sendAs(const Context& context) {
-    withTarget(context, [](AppState& of, const Target& target) {
-        of.sendToContrast(target.color, target.name, role, of.place());
-    });
+    if (const auto target = context.window->target())
+        contrastFrom(context).send(target->color, target->name, role);
 }
 
 template <AppState::SeedRole role>
@@ -85,7 +92,7 @@ const ActionRow kRows[] = {
      .keys = "F2",
      .menu = MenuId::swatch,
      .isEnabled = hasSwatch,
-     .perform = [](const Context& c) { c.window->beginRename(); }},
+     .perform = [](const Context& c) { c.palette->beginRename(); }},
     {.value = ActionId::editColour,
      .raw = "editColour",
      .text = "Edit Colour",
@@ -114,6 +121,7 @@ const ActionRow kRows[] = {
      .text = "Send to Contrast",
      .keys = "K",
      .scope = KeyScope::canvas,
+     .in = kSendingWindows,
      .menu = MenuId::swatch,
      .isEnabled = hasTarget,
      .perform = sendToContrast},
@@ -122,6 +130,7 @@ const ActionRow kRows[] = {
      .text = "Send to Contrast as Text",
      .keys = "Shift+K",
      .scope = KeyScope::canvas,
+     .in = kSendingWindows,
      .menu = MenuId::swatch,
      .isEnabled = hasTarget,
      .perform = sendAs<Contrast::Role::text>},
@@ -130,6 +139,7 @@ const ActionRow kRows[] = {
      .text = "Send to Contrast as Ground",
      .keys = "Ctrl+K",
      .scope = KeyScope::canvas,
+     .in = kSendingWindows,
      .menu = MenuId::swatch,
      .isEnabled = hasTarget,
      .perform = sendAs<Contrast::Role::ground>},

@@ -74,7 +74,8 @@ private:
 std::vector<RowList::Row> rowsFor(const QString& sought) {
     Rows rows(sought);
     for (const auto menu : {MenuId::file, MenuId::edit, MenuId::palette, MenuId::swatch,
-                            MenuId::view, MenuId::help, MenuId::none}) {
+                            MenuId::bench, MenuId::contrast, MenuId::library, MenuId::view,
+                            MenuId::window, MenuId::help, MenuId::none}) {
         rows.begin(worded(menuTitle(menu)));
         for (const auto& row : allActions())
             if (row.menu == menu && *row.keys != '\0' && !isToldElsewhere(row))

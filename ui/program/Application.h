@@ -21,6 +21,10 @@
 namespace tintra {
 
 class AboutWindow;
+class BenchWindow;
+class ContrastWindow;
+class LibraryWindow;
+class MainWindow;
 class SettingsWindow;
 class ShortcutsWindow;
 
@@ -44,6 +48,9 @@ public:
     QWidget* window(const ToastPlace& place) const override;
     void openPalette(const Uuid& id) override;
     void closePalette(const Uuid& id) override;
+    void openBench() override;
+    void openContrast() override;
+    void openLibrary() override;
     void openSettings() override;
     void openShortcuts() override;
     void openAbout() override;
@@ -54,9 +61,18 @@ private:
     void applyTheme();
     void connectModels();
     void openPaletteFile(const std::filesystem::path& file);
-    /// Shows the one window of its kind, made when first asked for.
+    void connectNotices();
+    /// The main window of a place; none while it is closed.
+    MainWindow* mainWindow(const ToastPlace& place) const;
+    /// The one window of its kind, made when it is not open.
+    template <class Window>
+    Window& only(QPointer<Window>& window);
+    /// Shows it at the front, with the keyboard.
     template <class Window>
     void showOnly(QPointer<Window>& window);
+    /// Shows it and leaves the keyboard where it is; nothing when it is open.
+    template <class Window>
+    void showBeside(QPointer<Window>& window);
 
     NoticeHistory notices_;
     DesktopNotifications notifications_;
@@ -69,6 +85,9 @@ private:
     SwatchPainter painter_;
     Ui ui_;
     std::unordered_map<Uuid, std::unique_ptr<PaletteWindow>> palettes_;
+    QPointer<BenchWindow> bench_;
+    QPointer<ContrastWindow> contrast_;
+    QPointer<LibraryWindow> library_;
     QPointer<SettingsWindow> settings_;
     QPointer<ShortcutsWindow> shortcuts_;
     QPointer<AboutWindow> about_;
