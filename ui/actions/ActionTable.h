@@ -70,7 +70,21 @@ enum class ActionId {
     // Bench
     // Contrast
     // Library
+    openListed,
+    openListedInNewWindow,
+    installListed,
+    installListedFor,
+    duplicateListed,
+    revealListed,
+    trashListed,
+    addListedSwatch,
+    benchListedSwatch,
+    addLocation,
+    rescanLibrary,
+    sortLibrary,
     // View
+    libraryRows,
+    libraryTiles,
     columns,
     tiles,
     colourEditor,

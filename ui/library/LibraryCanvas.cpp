@@ -141,12 +141,11 @@ void LibraryCanvas::addLine(std::vector<CanvasItem>& items, std::size_t at) cons
                      .name = note.title.isEmpty() ? note.text : note.title,
                      .description = note.title.isEmpty() ? QString() : note.text});
     if (!note.action.isEmpty())
-        items.push_back(
-            {.rect = inView(painter_.noteButton(whole, note, layout_.sides().left)),
-             .kind = noteAction,
-             .index = at,
-             .role = QAccessible::Button,
-             .name = note.action});
+        items.push_back({.rect = inView(painter_.noteButton(whole, note, layout_.sides().left)),
+                         .kind = noteAction,
+                         .index = at,
+                         .role = QAccessible::Button,
+                         .name = note.action});
 }
 
 CanvasItem LibraryCanvas::headerItem(const LibraryLine& line) const {
@@ -207,15 +206,15 @@ void LibraryCanvas::addPanel(std::vector<CanvasItem>& items, const LibraryLine& 
         const auto& held = one.palette->swatches[i];
         const auto code = swatchCode(ui_, held);
         // The nearest name of each of hundreds would take too long to find.
-        const bool isNamed = held.name || !open.isSmall();
-        items.push_back({.rect = open.swatches()[i],
-                         .kind = swatch,
-                         .index = packed(find, i),
-                         .role = QAccessible::ListItem,
-                         .name = isNamed ? swatchName(held) : code,
-                         .value = code,
-                         .description =
-                             worded("%1 of %2").arg(i + 1).arg(one.palette->swatches.size())});
+        const bool isNamed = held.name || !LibraryPanel::isSmall(one.palette->swatches.size());
+        items.push_back(
+            {.rect = open.swatches()[i],
+             .kind = swatch,
+             .index = packed(find, i),
+             .role = QAccessible::ListItem,
+             .name = isNamed ? swatchName(held) : code,
+             .value = code,
+             .description = worded("%1 of %2").arg(i + 1).arg(one.palette->swatches.size())});
     }
     for (const auto& button : open.buttons())
         items.push_back({.rect = button.rect,
@@ -274,8 +273,8 @@ void LibraryCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemSta
     case swatch: {
         const auto find = findOf(item.index);
         const auto& swatches = listing.paletteAt(find).palette->swatches;
-        painter_.swatch(painter, item.rect, swatches[partOf(item.index)], panelOf(find).isSmall(),
-                        look);
+        painter_.swatch(painter, item.rect, swatches[partOf(item.index)],
+                        LibraryPanel::isSmall(swatches.size()), look);
         return;
     }
     case action:
@@ -332,8 +331,8 @@ void LibraryCanvas::resizeEvent(QResizeEvent* event) {
 
 const PaletteFile::Swatch* LibraryCanvas::currentSwatch() const {
     if (!place_ || place_->kind != swatch) return nullptr;
-    const auto& palette = model_.listing().paletteAt(findOf(place_->index)).palette;
-    return palette ? &palette->swatches[partOf(place_->index)] : nullptr;
+    const auto& held = model_.listing().paletteAt(findOf(place_->index)).palette;
+    return held ? &held->swatches[partOf(place_->index)] : nullptr;
 }
 
 const LibraryGroup* LibraryCanvas::currentGroup() const {

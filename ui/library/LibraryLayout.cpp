@@ -166,7 +166,7 @@ QString titleOf(ColourMatch match) {
     return {};
 }
 
-LibraryNote nothingFound(const LibraryModel& model) {
+LibraryNote noteOfNothing(const LibraryModel& model) {
     const auto& listing = model.listing();
     const auto text = oneLine(model.text().value(), 60);
     LibraryNote note{
@@ -192,7 +192,7 @@ LibraryNote nothingFound(const LibraryModel& model) {
 LibraryNote LibraryLayout::noteOf(const LibraryModel& model, const LibraryLine& line) {
     using enum LibraryNote::About;
     const auto& listing = model.listing();
-    if (listing.sections.empty() && listing.isSearch) return nothingFound(model);
+    if (listing.sections.empty() && listing.isSearch) return noteOfNothing(model);
     if (listing.sections.empty())
         return {noFolders, worded("No folders yet."),
                 worded("Add one and its palettes appear in the Library and the Palette menu."),

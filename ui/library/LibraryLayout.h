@@ -107,7 +107,8 @@ public:
     const QRectF& rect() const { return rect_; }
     /// Each with the room for its words, unless they are small.
     const std::vector<QRectF>& swatches() const { return swatches_; }
-    bool isSmall() const { return isSmall_; }
+    /// Whether the swatches of a palette of so many stand close together, without words.
+    static bool isSmall(std::size_t count);
     const std::vector<Button>& buttons() const { return buttons_; }
     /// Where it says how many swatches are not shown; empty for none.
     const QRectF& rest() const { return rest_; }
@@ -123,7 +124,6 @@ private:
     std::vector<QRectF> swatches_;
     std::vector<Button> buttons_;
     std::size_t hidden_ = 0;
-    bool isSmall_ = false;
 };
 
 } // namespace tintra

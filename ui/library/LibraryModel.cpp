@@ -34,6 +34,7 @@ LibraryModel::LibraryModel(Ui& ui)
       listing_(std::make_unique<LibraryListing>()) {
     subscribe();
     takeUnfolded();
+    installsFor_ = !ui_.models.store().installTargets().empty();
     takeContent();
 }
 
@@ -84,7 +85,6 @@ void LibraryModel::takeChange() {
 
 void LibraryModel::takeContent() {
     later_.reset();
-    installsFor_ = !ui_.models.store().installTargets().empty();
     const auto& preferences = ui_.models.preferences();
     content_ = std::make_shared<LibraryContent>(libraryContent(ui_.models.store(),
                                                                preferences.paletteLocations.value(),

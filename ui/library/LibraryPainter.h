@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/library/LibraryLayout.h"
+#include "ui/shared/Theme.h"
 
 #include <QPainter>
 #include <QString>
@@ -42,6 +43,9 @@ public:
                 bool isSmall, const LibraryLook& look) const;
     /// Centred in a large place, at the left of a line.
     void note(QPainter& painter, const QRectF& in, const LibraryNote& note, qreal left) const;
+
+    /// A palette that is being dragged.
+    QPixmap card(std::size_t find, qreal ratio) const;
 
     /// The small buttons of a row, a tile and a header; none of a row that has no room.
     std::vector<LibraryButton> rowButtons(const QRectF& in, const LibraryLayout::Sides& sides,

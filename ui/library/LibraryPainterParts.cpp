@@ -143,6 +143,24 @@ void LibraryPainter::mosaic(QPainter& painter, const QRectF& in, std::size_t fin
     painter.drawRect(place.adjusted(2, 2, -2, -2));
 }
 
+QPixmap LibraryPainter::card(std::size_t find, qreal ratio) const {
+    constexpr QSize kCard(168, 112);
+    constexpr int kAround = 4;
+    QPixmap pixmap((kCard + QSize(2 * kAround, 2 * kAround)) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF place(QPointF(kAround, kAround), QSizeF(kCard));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.drawRoundedRect(place.adjusted(-4, -4, 4, 4), 12, 12);
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(place.adjusted(-2, -2, 2, 2), 10, 10);
+    tile(painter, place, find, {});
+    return pixmap;
+}
+
 // Notes
 
 void LibraryPainter::note(QPainter& painter, const QRectF& in, const LibraryNote& note,

@@ -59,6 +59,10 @@ LibraryPanel::LibraryPanel(const Theme& theme, const LibraryPalette& palette, bo
     rect_.setBottom(addButtons(theme, palette, installsFor, y) + kPad);
 }
 
+bool LibraryPanel::isSmall(std::size_t count) {
+    return count > kMostWithWords;
+}
+
 qreal LibraryPanel::swatchHeight(const Theme& theme) {
     return theme.scaled(kSwatch);
 }
@@ -66,17 +70,17 @@ qreal LibraryPanel::swatchHeight(const Theme& theme) {
 qreal LibraryPanel::addSwatches(const Theme& theme, std::size_t count) {
     auto y = rect_.top() + kPad;
     if (count == 0) return y;
-    isSmall_ = count > kMostWithWords;
+    const bool isSmall = LibraryPanel::isSmall(count);
     hidden_ = count - std::min(count, kMost);
     const auto room = rect_.width() - 2 * kPad;
-    const int gap = isSmall_ ? kSmallGap : kGap;
-    const auto least = theme.scaled(isSmall_ ? kSmallCell : kCell);
+    const int gap = isSmall ? kSmallGap : kGap;
+    const auto least = theme.scaled(isSmall ? kSmallCell : kCell);
     auto columns = std::max(1, static_cast<int>((room + gap) / (least + gap)));
-    if (!isSmall_) columns = std::min(columns, kMostColumns);
+    if (!isSmall) columns = std::min(columns, kMostColumns);
     const auto wide = (room - gap * (columns - 1)) / columns;
     const auto words = kNameGap + theme.lineHeight(TextStyle::small) + kCodeGap +
                        theme.lineHeight(TextStyle::code);
-    const auto high = isSmall_ ? theme.scaled(kSmallHigh) : theme.scaled(kSwatch) + words;
+    const auto high = isSmall ? theme.scaled(kSmallHigh) : theme.scaled(kSwatch) + words;
     const auto shown = static_cast<int>(count - hidden_);
     for (int i = 0; i < shown; ++i)
         swatches_.emplace_back(rect_.left() + kPad + (i % columns) * (wide + gap),

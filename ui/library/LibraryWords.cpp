@@ -4,6 +4,7 @@
 #include "platform/Number.h"
 #include "state/Models.h"
 #include "state/SaveTexts.h"
+#include "ui/shared/ColourMime.h"
 #include "ui/shared/Text.h"
 
 #include <QDateTime>
@@ -78,6 +79,17 @@ LibraryMatchText matchOf(const LibraryModel& model, std::size_t find) {
     match.distance =
         model.match() == ColourMatch::hue ? figure + u'°' : QStringLiteral("ΔE ") + figure;
     return match;
+}
+
+std::unique_ptr<QMimeData> mimeOfListed(const Ui& ui, const LibraryPalette& palette) {
+    if (!palette.fileName.empty()) return mimeOfPalette(palette.key);
+    if (!palette.palette) return nullptr;
+    QStringList codes;
+    for (const auto& swatch : palette.palette->swatches)
+        codes << swatchCode(ui, swatch);
+    auto data = std::make_unique<QMimeData>();
+    data->setText(codes.join(u'\n'));
+    return data;
 }
 
 } // namespace tintra

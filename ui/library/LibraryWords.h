@@ -2,8 +2,10 @@
 
 #include "ui/library/LibraryModel.h"
 
+#include <QMimeData>
 #include <QString>
 #include <cstddef>
+#include <memory>
 
 // What the Library says of palettes, groups and swatches, to the eye and to screen readers.
 
@@ -34,5 +36,8 @@ struct LibraryMatchText {
     QString distance;
 };
 LibraryMatchText matchOf(const LibraryModel& model, std::size_t find);
+
+/// A palette as a drag offers it: its file, or the codes of one that has none; null for neither.
+std::unique_ptr<QMimeData> mimeOfListed(const Ui& ui, const LibraryPalette& palette);
 
 } // namespace tintra

@@ -3,6 +3,7 @@
 #include "state/Models.h"
 #include "ui/shared/Badge.h"
 #include "ui/shared/Controls.h"
+#include "ui/shared/LocationMenu.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
@@ -189,28 +190,10 @@ void LocationsList::openMenu(std::size_t index) {
     const auto location = all()[index];
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    fillMenu(*menu, location);
+    fillLocationMenu(*menu, locations_, location);
     const auto at = find(chevron, index);
     const auto under = items()[static_cast<std::size_t>(at)].rect.toAlignedRect();
     menu->popup(mapToGlobal(under.bottomLeft()));
-}
-
-void LocationsList::fillMenu(QMenu& menu, const PaletteLocation& location) {
-    const auto id = location.id;
-    menu.addAction(worded("Rename…"), [this, id] { locations_.rename(id); });
-    menu.addAction(worded("Tag…"), [this, id] { locations_.tag(id); });
-    if (location.tag) menu.addAction(worded("Remove Tag"), [this, id] { locations_.untag(id); });
-    const bool includes = location.includesStylesheets;
-    auto* sheets = menu.addAction(shown("Include Stylesheets"), [this, id, includes] {
-        locations_.setIncludesStylesheets(id, !includes);
-    });
-    sheets->setCheckable(true);
-    sheets->setChecked(includes);
-    menu.addSeparator();
-    menu.addAction(worded("Reveal"), [this, id] { locations_.reveal(id); });
-    menu.addAction(worded("Choose Again…"), [this, id] { locations_.rechoose(id); });
-    menu.addSeparator();
-    menu.addAction(worded("Stop Watching"), [this, id] { locations_.remove(id); });
 }
 
 } // namespace tintra
