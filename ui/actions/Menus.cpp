@@ -53,8 +53,21 @@ constexpr MenuRow kContrast[] = {
 constexpr MenuRow kContrastEntry[] = {
     useAsText, useAsGround, kLine,       copy,          copyAs, addEntryToPalette, putEntryOnBench,
     kLine,     renameEntry, moveEntryUp, moveEntryDown, kLine,  removeEntry};
-constexpr MenuRow kView[] = {columns, tiles,      kLine, colourEditor, picturePane, kLine,
-                             vision,  codeFormat, kLine, collapse,     alwaysOnTop, showMenuBar};
+constexpr MenuRow kLibrary[] = {openListed,      openListedInNewWindow, kLine,
+                                installListed,   installListedFor,      duplicateListed,
+                                revealListed,    trashListed,           kLine,
+                                addListedSwatch, benchListedSwatch,     kLine,
+                                addLocation,     rescanLibrary,         sortLibrary};
+constexpr MenuRow kListed[] = {openListed,       openListedInNewWindow, kLine,        installListed,
+                               installListedFor, duplicateListed,       revealListed, kLine,
+                               trashListed};
+constexpr MenuRow kListedSwatch[] = {
+    copy,           copyAs,     kLine,       addListedSwatch, benchListedSwatch,
+    sendToContrast, sendAsText, sendAsGround};
+constexpr MenuRow kListedCanvas[] = {addLocation, rescanLibrary, kLine, sortLibrary};
+constexpr MenuRow kView[] = {libraryRows,  libraryTiles, columns,     tiles,      kLine,
+                             colourEditor, picturePane,  kLine,       vision,     codeFormat,
+                             kLine,        collapse,     alwaysOnTop, showMenuBar};
 constexpr MenuRow kWindow[] = {openLibrary, openBench, openContrast};
 constexpr MenuRow kHelp[] = {shortcuts, recentNotices, kLine, acknowledgements, about};
 constexpr MenuRow kCanvas[] = {pasteColours, typeOrPaste, addBlankSwatch, kLine, openPicture};
@@ -76,7 +89,7 @@ const std::array kMenus{
     MenuOfBar{MenuId::swatch, "Swatch", kSwatch, WindowKind::palette},
     MenuOfBar{MenuId::bench, "Bench", {}, WindowKind::bench},
     MenuOfBar{MenuId::contrast, "Contrast", kContrast, WindowKind::contrast},
-    MenuOfBar{MenuId::library, "Library", {}, WindowKind::library},
+    MenuOfBar{MenuId::library, "Library", kLibrary, WindowKind::library},
     MenuOfBar{MenuId::view, "View", kView},
     MenuOfBar{MenuId::window, "Window", kWindow},
     MenuOfBar{MenuId::help, "Help", kHelp},
@@ -170,6 +183,18 @@ void fillStripMenu(QMenu& menu, const ActionContext& context) {
 
 void fillContrastEntryMenu(QMenu& menu, const ActionContext& context) {
     addRows(menu, kContrastEntry, context);
+}
+
+void fillListedMenu(QMenu& menu, const ActionContext& context) {
+    addRows(menu, kListed, context);
+}
+
+void fillListedSwatchMenu(QMenu& menu, const ActionContext& context) {
+    addRows(menu, kListedSwatch, context);
+}
+
+void fillListedCanvasMenu(QMenu& menu, const ActionContext& context) {
+    addRows(menu, kListedCanvas, context);
 }
 
 std::vector<ActionId> actionsOf(MenuId id) {

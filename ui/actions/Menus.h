@@ -31,6 +31,11 @@ void fillStripMenu(QMenu& menu, const ActionContext& context);
 /// The context menu of a colour of the contrast window.
 void fillContrastEntryMenu(QMenu& menu, const ActionContext& context);
 
+// The context menus of the Library: of a palette, of a swatch of it, of an empty place.
+void fillListedMenu(QMenu& menu, const ActionContext& context);
+void fillListedSwatchMenu(QMenu& menu, const ActionContext& context);
+void fillListedCanvasMenu(QMenu& menu, const ActionContext& context);
+
 /// Every row of the menu of the bar, in order; for tests and for the shortcuts window.
 std::vector<ActionId> actionsOf(MenuId id);
 /// "File", "Edit" and so on.

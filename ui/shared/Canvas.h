@@ -23,7 +23,8 @@ struct CanvasItem {
     QAccessible::Role role = QAccessible::NoRole;
     QString name{}, value{}, description{};
     bool selected = false;
-    std::optional<bool> checked{}; ///< none for what is not checked and unchecked
+    std::optional<bool> checked{};  ///< none for what is not checked and unchecked
+    std::optional<bool> expanded{}; ///< none for what is not folded and unfolded
 };
 
 /// A painted view of items: one stop of the Tab key, walked with the arrows. A subclass says where
