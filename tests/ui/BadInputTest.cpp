@@ -77,7 +77,7 @@ TEST_F(BadInputTest, FilesThatAreNoneAreNamed) {
         {desk.folder / "Folder", "Folder could not be read as an image"},
         {desk.folder / "gone.gpl", "gone.gpl could not be read"},
         {desk.folder / "gone.png", "gone.png could not be read as an image"},
-        {file("empty.ase"), "empty.ase could not be read"},
+        {file("empty.ase"), "empty.ase is empty"},
         {file("huge.ase", kHuge), "huge.ase could not be read"},
         {file("huge.png", kHuge), "huge.png could not be read as an image"},
         {file("huge.txt", kHuge), "huge.txt could not be read"},
@@ -165,6 +165,9 @@ TEST_P(ClosingTest, TakesWhatGoesOnAlong) {
     desk.desktop.dialogues.buttons = {"Discard"};
     const auto id = state.id();
     window->close();
+    // The window goes with the loop of the toolkit, before the model does.
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     desk.settle();
     desk.desktop.background.finish();
     desk.desktop.loop.pass(10);
@@ -179,7 +182,8 @@ const Middle kMiddles[]{
     {"AnEdit", [](BadInputTest& at) { at.state.editSwatch(1); }},
     {"APaste", [](BadInputTest& at) { at.window->showPasteSheet(); }},
     {"AStrip", [](BadInputTest& at) { at.state.isCollapsed = true; }},
-    {"ANotice", [](BadInputTest& at) { at.window->notices().show("Said", 5, {}); }},
+    {"ANotice",
+     [](BadInputTest& at) { at.window->notices().present(QStringLiteral("Said"), 5, {}); }},
     {"APress",
      [](BadInputTest& at) {
          const auto on = at.canvas().items()[0].rect.center().toPoint();
@@ -214,6 +218,7 @@ TEST_F(BadInputTest, ANameThatIsTypedIsKeptAtClosing) {
     state.open(desk.folder / "one.gpl");
     desk.settle();
     ASSERT_FALSE(state.paletteIsDirty());
+    state.selectedSwatch = 0;
     window->beginRename();
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Buoy"));
     window->close();
@@ -231,7 +236,7 @@ TEST_F(BadInputTest, NamesOfAnyLengthAndScriptKeepEveryPartInBounds) {
                               "[*]",
                               "<b>bold</b> & <img src='x'>",
                               "\xff\xfe"};
-    const auto least = window->minimumSizeHint();
+    const auto least = window->minimumSizeHint().width();
     for (const auto& name : names) {
         SCOPED_TRACE(name.substr(0, 30));
         state.renameSwatch(0, name);
@@ -247,7 +252,7 @@ TEST_F(BadInputTest, NamesOfAnyLengthAndScriptKeepEveryPartInBounds) {
             }
         }
         EXPECT_LE(window->windowTitle().size(), 300);
-        EXPECT_EQ(window->minimumSizeHint(), least);
+        EXPECT_EQ(window->minimumSizeHint().width(), least);
         state.isCollapsed = true;
         grab(*window, "names-strip");
         EXPECT_LE(window->width(), 1920);

@@ -1,6 +1,5 @@
 #include "ui/palette/PaletteWindow.h"
 
-#include "palettes/PaletteFile.h"
 #include "state/AppUndo.h"
 #include "state/Bench.h"
 #include "tests/ui/Desk.h"
@@ -12,7 +11,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QDrag>
 #include <QMenu>
 #include <QUrl>
 
@@ -288,29 +286,6 @@ TEST(PaletteCanvas, ScrollsOnWhileADragRestsAtAnEdge) {
     QCoreApplication::sendEvent(&canvas, &leave);
     desk.desktop.loop.pass(0.5);
     EXPECT_EQ(top(), later);
-}
-
-TEST(PaletteWindow, GivesThePaletteAwayAsAFile) {
-    Desk desk;
-    PaletteWindow window(desk.ui, desk.stateWith(3));
-    desk.models.preferences().lastExport = ExportFormat::gpl;
-    open(window, {960, 600});
-    auto& count = *qobject_cast<QWidget*>(accessible(window, "3 swatches")->object());
-    std::vector<PaletteFile::Swatch> given;
-    const auto look = [&] {
-        const auto* drag = window.findChild<QDrag*>();
-        const auto urls = drag ? drag->mimeData()->urls() : QList<QUrl>();
-        for (const auto& url : urls)
-            given = PaletteFile::readNamed(toUtf8(url.toLocalFile()))
-                        .value_or(std::vector<PaletteFile::Swatch>());
-        QDrag::cancel();
-    };
-    QTest::mousePress(&count, Qt::LeftButton, {}, {10, 8});
-    QMetaObject::invokeMethod(&window, look, Qt::QueuedConnection);
-    QMouseEvent move(QEvent::MouseMove, QPointF(60, 8), count.mapToGlobal(QPointF(60, 8)),
-                     Qt::LeftButton, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&count, &move);
-    EXPECT_EQ(given.size(), 3U);
 }
 
 TEST(PaletteWindow, RemembersWhichFilesWereOpened) {

@@ -107,6 +107,7 @@ TEST(StripTest, IsWorkedWithoutUnfoldingIt) {
     PaletteWindow window(desk.ui, state);
     open(window);
     auto& cells = partOf<StripCells>(window);
+    EXPECT_EQ(window.focusWidget(), &cells);
     const auto menu = [&](std::size_t at) {
         const auto place = cells.items()[at].rect.center().toPoint();
         QContextMenuEvent event(QContextMenuEvent::Mouse, place, cells.mapToGlobal(place));

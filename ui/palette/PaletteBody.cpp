@@ -125,7 +125,8 @@ QRect PaletteBody::layOutPicture(QRect room) {
 
 void PaletteBody::layOut() {
     auto room = rect();
-    const auto* focus = QApplication::focusWidget();
+    // Also while another window is in front.
+    const auto* focus = window()->focusWidget();
     const bool wasInEditor = editor_->isAncestorOf(focus);
     const bool wasInPicture = picture_->isAncestorOf(focus) || focus == picture_;
     const bool edits = state_.editorBuffer.value().has_value();
@@ -147,7 +148,8 @@ void PaletteBody::layOut() {
 
 void PaletteBody::layOutMain(QRect room) {
     auto* shown = main();
-    const auto* focus = QApplication::focusWidget();
+    // Also while another window is in front.
+    const auto* focus = window()->focusWidget();
     const auto* canvas = dynamic_cast<const Canvas*>(focus);
     const bool goesOn =
         focus != shown && canvas && (focus == swatches_ || focus == bands_ || focus == empty_);

@@ -21,7 +21,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMenuBar>
 #include <QVBoxLayout>
 
 namespace tintra {
@@ -42,8 +41,8 @@ PaletteWindow::PaletteWindow(Ui& ui, AppState& state)
     syncPanels();
     restoreFrame();
     syncOnTop();
-    syncCollapsed();
     parts_->body->main()->setFocus();
+    syncCollapsed();
 }
 
 PaletteWindow::~PaletteWindow() = default;

@@ -93,6 +93,8 @@ void PaletteWindow::syncCollapsed() {
         setMinimumSize(240, 180);
         restoreFrame();
     }
+    auto* const canvas = folds ? static_cast<Canvas*>(&parts.strip->cells()) : parts.body->main();
+    canvas->setFocus(Qt::OtherFocusReason);
     parts.isPlacing = false;
 }
 

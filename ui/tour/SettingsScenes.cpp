@@ -12,7 +12,6 @@ namespace tintra::tour {
 namespace {
 
 void addFolders(Stage& stage) {
-    auto locations = stage.preferences().paletteLocations.value();
     for (const auto* name : {"Studio", "Client Work", "Archive"}) {
         const auto path = stage.folder() / "Palettes" / name;
         std::filesystem::create_directories(path);

@@ -30,6 +30,14 @@ class User:
     def keys(self, *names):
         self.xdotool("key", "--delay", "8", *names)
 
+    def presses_key_until(self, key, seen, most=20):
+        """As a person does who looks for a thing with Tab."""
+        for _ in range(most):
+            if seen():
+                return
+            self.keys(key)
+        until(f"what {key} leads to", seen)
+
     def types(self, text):
         for number, line in enumerate(text.split("\n")):
             if number:
