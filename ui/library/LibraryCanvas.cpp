@@ -68,7 +68,11 @@ void LibraryCanvas::followCurrent() {
     const auto current = model_.current();
     if (!current) {
         const auto sections = model_.listing().sections.size();
-        if (place_ && (place_->kind != header || place_->index >= sections)) place_.reset();
+        const auto& lines = layout_.lines();
+        const bool isHeader = place_ && place_->kind == header && place_->index < sections;
+        const bool isNote = place_ && place_->kind == noteAction && place_->index < lines.size() &&
+                            lines[place_->index].kind == LibraryLine::Kind::note;
+        if (!isHeader && !isNote) place_.reset();
         return;
     }
     const auto line = lineWith(*current);

@@ -37,6 +37,12 @@ LibraryWindow::LibraryWindow(Ui& ui)
     takeFindRequest();
 }
 
+LibraryWindow::~LibraryWindow() {
+    // They show the model, which goes before the window's other children.
+    for (auto* part : std::initializer_list<QWidget*>{tools_, canvas_, foot_})
+        delete part;
+}
+
 void LibraryWindow::connectTools() {
     tools_->leave = [this] { canvas_->takeKeyboard(); };
     tools_->open = [this] { perform(ActionId::openListed, context()); };

@@ -14,6 +14,7 @@ class LibraryTools;
 class LibraryWindow final : public MainWindow {
 public:
     explicit LibraryWindow(Ui& ui);
+    ~LibraryWindow() override;
 
     LibraryModel& model() { return model_; }
     LibraryFiles& files() { return files_; }
