@@ -95,8 +95,18 @@ QWidget* ContrastBody::main() const {
 std::optional<Uuid> ContrastBody::target() const {
     if (matrix_->isVisibleTo(this)) return matrix_->matrix().target();
     if (ladder_->isVisibleTo(this)) return ladder_->ladder().target();
-    return list_->isVisibleTo(this) && !result_->verdict().hasFocus() ? list_->target()
-                                                                      : std::nullopt;
+    // While another canvas has the keyboard, keys are not for the list.
+    const auto* canvas = dynamic_cast<const Canvas*>(focusWidget());
+    const bool isElsewhere = canvas && canvas != list_ && canvas->hasFocus();
+    return list_->isVisibleTo(this) && !isElsewhere ? list_->target() : std::nullopt;
+}
+
+void ContrastBody::focusEntry(std::size_t at) {
+    auto& matrix = matrix_->matrix();
+    if (matrix_->isVisibleTo(this) && matrix.focused() >= 0)
+        matrix.setFocused(
+            matrix.find(matrix.items()[static_cast<std::size_t>(matrix.focused())].kind, at));
+    list_->setFocused(list_->find(EntryList::entry, at));
 }
 
 QString ContrastBody::figureText() const {

@@ -5,6 +5,7 @@
 #include "ui/shared/Subscriptions.h"
 
 #include <QWidget>
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -33,6 +34,8 @@ public:
 
     /// The colour that has the focus, in whichever view; none where none has.
     std::optional<Uuid> target() const;
+    /// Gives the focus within the views to the entry at a place of the list.
+    void focusEntry(std::size_t at);
     /// The figure that has the focus; the pair's own where no colour has it.
     QString figureText() const;
     /// What F6 walks, in order, shown or not.

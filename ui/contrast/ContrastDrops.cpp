@@ -33,13 +33,6 @@ void sendOne(Ui& ui, const WashColor& colour, const std::optional<std::string>& 
         sending(ui).send(colour, name);
 }
 
-void sendAll(Ui& ui, const Swatches& swatches, Role as) {
-    if (as || swatches.size() == 1)
-        sendOne(ui, swatches.front().color, swatches.front().name, as);
-    else
-        sending(ui).sendAll(swatches);
-}
-
 /// Reads in the background; `unread` is said when nothing comes of it.
 template <class Read>
 void sendWhatReads(Ui& ui, Role as, std::string unread, Read read) {
@@ -48,7 +41,7 @@ void sendWhatReads(Ui& ui, Role as, std::string unread, Read read) {
             if (swatches.empty())
                 ui.services.toasts.show(unread, kForExplaining, {}, kPlace);
             else
-                sendAll(ui, swatches, as);
+                takeInContrast(ui, swatches, as);
         });
     });
 }
@@ -59,6 +52,14 @@ void receiveFile(Ui& ui, const std::filesystem::path& file, Role as) {
 }
 
 } // namespace
+
+void takeInContrast(Ui& ui, std::span<const PaletteFile::Swatch> swatches,
+                    std::optional<Contrast::Role> as) {
+    if (as || swatches.size() == 1)
+        sendOne(ui, swatches.front().color, swatches.front().name, as);
+    else
+        sending(ui).sendAll(swatches);
+}
 
 void receiveTextInContrast(Ui& ui, std::string text, std::optional<Contrast::Role> as) {
     sendWhatReads(ui, as, "Nothing there that reads as a colour",

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "colour/Contrast.h"
+#include "palettes/Swatch.h"
 #include "ui/Ui.h"
 #include "ui/shared/ColourMime.h"
 
 #include <optional>
+#include <span>
 #include <string>
 
 namespace tintra {
@@ -13,6 +15,9 @@ namespace tintra {
 /// text or of a palette file as far as there is room. With a role the colour, or the first, gets
 /// it. What it comes to is said in the window.
 void receiveInContrast(Ui& ui, const Dropped& data, std::optional<Contrast::Role> as);
+/// The same with at least one colour that was read.
+void takeInContrast(Ui& ui, std::span<const PaletteFile::Swatch> swatches,
+                    std::optional<Contrast::Role> as);
 void receiveTextInContrast(Ui& ui, std::string text, std::optional<Contrast::Role> as);
 
 } // namespace tintra

@@ -178,7 +178,7 @@ void ContrastWindow::beginRename() {
 
 void ContrastWindow::moveEntry(const Uuid& id, std::size_t to) {
     board_.move(id, to);
-    body_->list().setFocused(body_->list().find(EntryList::entry, to));
+    body_->focusEntry(to);
 }
 
 std::vector<QWidget*> ContrastWindow::regions() const {

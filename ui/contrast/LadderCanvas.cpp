@@ -60,12 +60,19 @@ LadderCanvas::LadderCanvas(Ui& ui, QWidget* parent)
     subscriptions_.add(board_.measure, again);
     subscriptions_.add(board_.target, again);
     subscriptions_.add(board_.ladderFixesGround, again);
-    subscriptions_.add(board_.size, again);
-    subscriptions_.add(board_.weight, again);
-    subscriptions_.add(board_.family, again);
     subscriptions_.add(board_.specimen, again);
+    const auto face = [this] { syncFace(); };
+    subscriptions_.add(board_.size, face);
+    subscriptions_.add(board_.weight, face);
+    subscriptions_.add(board_.family, face);
     subscriptions_.add(board_.vision, [this] { update(); });
-    subscriptions_.add(ui.theme.version(), again);
+    subscriptions_.add(ui.theme.version(), face);
+    syncFace();
+}
+
+void LadderCanvas::syncFace() {
+    wordsFont_ = specimenFace(board_, theme()).font;
+    wordsFont_.setPixelSize(std::min(wordsFont_.pixelSize(), kLargestWords));
     sync();
 }
 
@@ -85,8 +92,6 @@ void LadderCanvas::sync() {
         others_.push_back(figureToCopy(other, terms.measure));
     }
     words_ = firstSentence(board_.specimen);
-    wordsFont_ = specimenFace(board_, theme()).font;
-    wordsFont_.setPixelSize(std::min(wordsFont_.pixelSize(), kLargestWords));
     setMinimumHeight(heightNeeded());
     relayout();
 }

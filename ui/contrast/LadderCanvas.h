@@ -45,6 +45,7 @@ private:
     using Row = ContrastLadder::Row;
 
     void sync();
+    void syncFace();
     const Row* focusedRow() const;
     QRectF barRect(const CanvasItem& item) const;
     void paintRung(QPainter& painter, const CanvasItem& item) const;

@@ -46,21 +46,27 @@ SpecimenCanvas::SpecimenCanvas(Ui& ui, QWidget* parent) : PairCanvas(ui, parent)
     setAccessibleName(worded("Specimen"));
     setCursor(Qt::ArrowCursor);
     const auto again = [this] { sync(); };
+    const auto face = [this] { syncFace(); };
     auto& of = board();
     subscriptions().add(of.content(), again);
     subscriptions().add(of.vision, again);
-    subscriptions().add(of.size, again);
-    subscriptions().add(of.weight, again);
-    subscriptions().add(of.family, again);
     subscriptions().add(of.specimen, again);
+    subscriptions().add(of.size, face);
+    subscriptions().add(of.weight, face);
+    subscriptions().add(of.family, face);
     subscriptions().add(of.specimenEditRequested, [this] {
         if (board().specimenEditRequested.value()) beginEdit();
     });
-    subscriptions().add(ui.theme.version(), again);
-    sync();
+    subscriptions().add(ui.theme.version(), face);
+    syncFace();
 }
 
 SpecimenCanvas::~SpecimenCanvas() = default;
+
+void SpecimenCanvas::syncFace() {
+    face_ = specimenFace(board(), theme());
+    sync();
+}
 
 void SpecimenCanvas::sync() {
     const auto* text = board().text();
@@ -72,9 +78,8 @@ void SpecimenCanvas::sync() {
     colours_ = seenPair(text->color, ground->color, board().vision);
     heading_ = worded("%1 on %2")
                    .arg(oneLine(board().name(*text), 80), oneLine(board().name(*ground), 80));
-    face_ = specimenFace(board(), theme());
-    dressEditor();
     relayout();
+    dressEditor();
 }
 
 void SpecimenCanvas::layOutWords(qreal width) const {
@@ -200,8 +205,9 @@ void SpecimenCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemSt
 
 void SpecimenCanvas::beginEdit() {
     board().specimenEditRequested = false;
-    const auto item = find(words, 0);
-    if (item < 0 || editor_) return;
+    // It may have come to be seen only now.
+    relayout();
+    if (find(words, 0) < 0 || editor_) return;
     before_ = board().specimen.value();
     editor_ = new QTextEdit(this);
     editor_->setAcceptRichText(false);

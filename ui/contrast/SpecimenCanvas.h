@@ -37,6 +37,7 @@ protected:
 
 private:
     void sync();
+    void syncFace();
     void layOutWords(qreal width) const;
     void dressEditor();
     void endEdit(bool keep);

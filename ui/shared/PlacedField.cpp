@@ -20,7 +20,6 @@ void PlacedField::end(bool keep) {
     // It may be in the middle of the event that ends it.
     deleteLater();
     if (keep && kept) kept(text());
-    if (gone) gone();
     if (hadKeyboard) parentWidget()->setFocus(Qt::OtherFocusReason);
 }
 

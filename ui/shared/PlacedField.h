@@ -13,8 +13,6 @@ public:
 
     /// Is told what is to be kept, once; not told when nothing is.
     std::function<void(const QString&)> kept;
-    /// Is told that the field goes.
-    std::function<void()> gone;
 
     void end(bool keep);
 
