@@ -112,13 +112,8 @@ std::shared_ptr<const ColourSpace> ColorProfiles::openProfile(std::string_view n
 }
 
 void ColorProfiles::selectCMYK(std::string_view name) {
-    // The usual choice is at hand: no folder is read for it, which a start of the program would
-    // wait for.
-    std::shared_ptr<const ColourSpace> space;
-    if (name != kDefaultCmyk) {
-        loadIfNeeded();
-        space = openProfile(name);
-    }
+    loadIfNeeded();
+    auto space = openProfile(name);
     if (!space) {
         selectedCMYK_ = kDefaultCmyk;
         cmykSpace_.store(nullptr, std::memory_order_release);

@@ -198,7 +198,11 @@ void Preferences::follow(ColorProfiles& profiles) {
         });
     };
     keep(rgbProfile, [this, &profiles] { profiles.selectRGB(rgbProfile.value()); });
-    keep(cmykProfile, [this, &profiles] { profiles.selectCMYK(cmykProfile.value()); });
+    keep(cmykProfile, [this, &profiles] {
+        // Selecting reads the folders of profiles, which a start need not wait for.
+        if (cmykProfile.value() != profiles.selectedCMYK())
+            profiles.selectCMYK(cmykProfile.value());
+    });
     keep(labIlluminant, [this, &profiles] { profiles.setLabIlluminant(labIlluminant); });
 }
 

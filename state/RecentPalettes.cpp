@@ -48,6 +48,8 @@ void RecentPalettes::followWindows() {
         const auto* window = workspaces_.state(id);
         if (!window) continue;
         windows_.emplace_back(window->attachment(), [this, window] {
+            // What comes back was remembered when it was opened.
+            if (window->restoring()) return;
             if (const auto file = window->currentPaletteURL()) remember(*file);
         });
     }

@@ -146,8 +146,8 @@ TEST(AppStatePalette, SelectionAndEditorStayWithTheirSwatch) {
     desk.undo.undo(state.place());
     EXPECT_EQ(state.editorBuffer.value()->color, edited.color) << "an untouched editor follows";
     state.removeSelectedSwatch();
-    EXPECT_FALSE(state.editorBuffer.value());
     EXPECT_EQ(state.selectedSwatch.value(), 1U) << "the next one takes its place";
+    EXPECT_EQ(state.editorBuffer.value()->swatchID, state.swatches()[1].id);
 }
 
 TEST(AppStatePalette, WhatUndoBringsBackIsCleanOnlyUntilASave) {

@@ -46,6 +46,10 @@ int EditorPicker::planeHeight() const {
     return std::max(theme_.scaled(kPlaneHeight) - lack_, theme_.scaled(kLeastHeight));
 }
 
+int EditorPicker::lack() const {
+    return theme_.scaled(kPlaneHeight) - planeHeight();
+}
+
 void EditorPicker::setLack(int lack) {
     if (lack == lack_) return;
     lack_ = lack;

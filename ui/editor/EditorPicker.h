@@ -28,7 +28,8 @@ public:
     /// Makes the plane lower where the room is short by so much, px, down to its least height;
     /// the wheel stays as it is.
     void setLack(int lack);
-    int lack() const { return lack_; }
+    /// What the plane has given up, px: it keeps a least height.
+    int lack() const;
 
     std::function<void(double saturation, double brightness)> planeChanged;
     std::function<void(double degrees)> hueChanged;

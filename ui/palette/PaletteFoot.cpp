@@ -257,7 +257,10 @@ void PaletteFoot::paintEvent(QPaintEvent*) {
         painter.drawText(in, Qt::AlignVCenter | Qt::AlignLeft,
                          QFontMetrics(font).elidedText(text, Qt::ElideRight, in.width()));
     };
-    write(hintPlace_, TextStyle::body, Token::ink3, hint());
+    const auto words = QFontMetrics(theme.font(TextStyle::body)).horizontalAdvance(hint());
+    // What to do with an empty palette is said as far as there is room, the other whole or not.
+    if (state_.swatches().empty() || words <= hintPlace_.width())
+        write(hintPlace_, TextStyle::body, Token::ink3, hint());
     write(namePlace_, TextStyle::name, Token::ink, name_);
     write(codePlace_, TextStyle::code, Token::ink2, code_);
     if (!choices_.format().isHidden() && !choices_.vision()->isHidden())

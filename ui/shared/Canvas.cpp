@@ -106,21 +106,24 @@ void Canvas::announceChanges(const std::vector<CanvasItem>& before) {
         if (hasFocus()) announce(QAccessible::Focus, focused_);
         return;
     }
-    for (std::size_t i = 0; i < items_.size(); ++i) {
-        const auto &was = before[i], &is = items_[i];
-        const auto item = static_cast<int>(i);
-        if (was.name != is.name) announce(QAccessible::NameChanged, item);
-        if (was.value != is.value || was.description != is.description)
-            announce(QAccessible::DescriptionChanged, item);
-        if (was.selected != is.selected)
-            announce(is.selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove, item);
-        if (was.checked == is.checked) continue;
-        QAccessible::State which;
-        which.checked = true;
-        QAccessibleStateChangeEvent event(this, which);
-        event.setChild(item);
-        tellAccessibility(event);
-    }
+    for (std::size_t i = 0; i < items_.size(); ++i)
+        announceChange(before[i], static_cast<int>(i));
+}
+
+void Canvas::announceChange(const CanvasItem& was, int item) {
+    if (!isAccessibilityHeard()) return;
+    const auto& is = items_[static_cast<std::size_t>(item)];
+    if (was.name != is.name) announce(QAccessible::NameChanged, item);
+    if (was.value != is.value || was.description != is.description)
+        announce(QAccessible::DescriptionChanged, item);
+    if (was.selected != is.selected)
+        announce(is.selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove, item);
+    if (was.checked == is.checked) return;
+    QAccessible::State which;
+    which.checked = true;
+    QAccessibleStateChangeEvent event(this, which);
+    event.setChild(item);
+    tellAccessibility(event);
 }
 
 void Canvas::markSelected(int item) {
@@ -164,8 +167,9 @@ void Canvas::layOut() {
 }
 
 void Canvas::setItem(int item, CanvasItem now) {
-    items_[static_cast<std::size_t>(item)] = std::move(now);
+    const auto was = std::exchange(items_[static_cast<std::size_t>(item)], std::move(now));
     repaintItem(item);
+    announceChange(was, item);
 }
 
 void Canvas::repaintItem(int item) {

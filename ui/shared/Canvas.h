@@ -107,6 +107,7 @@ private:
     void announce(QAccessible::Event what, int item);
     /// Tells accessibility how the items differ from those before.
     void announceChanges(const std::vector<CanvasItem>& before);
+    void announceChange(const CanvasItem& was, int item);
     int pageNeighbour(int from, bool forward) const;
 
     Theme& theme_;

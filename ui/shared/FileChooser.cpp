@@ -4,6 +4,7 @@
 #include "palettes/Stylesheet.h"
 #include "ui/shared/Text.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -54,6 +55,9 @@ void present(QFileDialog* dialogue, FileChooser::Answered answered) {
     dialogue->setAttribute(Qt::WA_QuitOnClose, false);
     QObject::connect(dialogue, &QFileDialog::finished, dialogue,
                      [dialogue, answered = std::move(answered)](int result) {
+                         // The list of completions is still open, and while it is, Qt passes
+                         // over the news of which window is active next.
+                         if (auto* popup = QApplication::activePopupWidget()) popup->close();
                          const auto files = dialogue->selectedFiles();
                          if (result == QDialog::Accepted && !files.isEmpty())
                              answered(pathOf(files.first()));

@@ -81,6 +81,15 @@ bool isOnPixels(const QPainter& painter, const QRectF& in) {
     return mapped == QRectF(mapped.toRect());
 }
 
+/// Fills what ends on whole pixels of the device, where rounding alone would make an edge of half
+/// tones.
+void fillPixels(QPainter& painter, const QRectF& in, const QBrush& brush) {
+    const bool smooth = painter.testRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.fillRect(in, brush);
+    painter.setRenderHint(QPainter::Antialiasing, smooth);
+}
+
 /// Fills the shape without seams between neighbours: square ones by whole pixels, and of round ones
 /// all but the corners.
 void fillShape(QPainter& painter, const QRectF& in, const std::array<int, 4>& radii,
@@ -99,7 +108,7 @@ void fillShape(QPainter& painter, const QRectF& in, const std::array<int, 4>& ra
         return;
     }
     // Antialiasing what lies far from a corner takes longer than all else in a frame.
-    painter.fillRect(middle, brush);
+    fillPixels(painter, middle, brush);
     if (above > 0)
         painter.drawPath(rounded(QRectF(in.topLeft(), middle.topRight()), {topLeft, topRight}));
     if (below > 0)

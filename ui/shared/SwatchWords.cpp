@@ -10,6 +10,7 @@ namespace tintra {
 namespace {
 
 constexpr int kInset = 12;    ///< of words from the edges of a swatch, px
+constexpr int kNameEnd = 8;   ///< between a name and the right edge
 constexpr int kTight = 4;     ///< of a code that has no room else
 constexpr int kMark = 24;     ///< the circle or square around a pin's number
 constexpr int kRowIndex = 36; ///< what the number takes of a row
@@ -39,7 +40,7 @@ QString SwatchWords::share() const {
 
 int SwatchWords::nameLines() const {
     if (look_.shape == SwatchShape::bandCell) return 0;
-    const auto width = in_.width() - 2 * kInset;
+    const auto width = in_.width() - kInset - kNameEnd;
     return static_cast<int>(lines_.twoLines(measured(TextStyle::name), look_.name, width).size());
 }
 
@@ -71,7 +72,8 @@ QRectF SwatchWords::name() const {
     case SwatchShape::column:
     case SwatchShape::tile: {
         const auto height = line * nameLines();
-        return {codePlace.left(), codePlace.top() - height, codePlace.width(), height};
+        return {codePlace.left(), codePlace.top() - height, in_.width() - kInset - kNameEnd,
+                height};
     }
     case SwatchShape::onSide: {
         const auto bottom = codePlace.top() - kInset;

@@ -130,9 +130,10 @@ QFont::Weight lighter(QFont::Weight weight) {
 
 struct Theme::Subscriptions {
     std::vector<QPropertyNotifier> all;
-    /// By style and whether the ink is light; made once for as long as nothing changes: a copy of a
-    /// font shares what was found of its face.
-    QHash<std::pair<TextStyle, bool>, QFont> fonts;
+    using Fonts = QHash<TextStyle, QFont>;
+    /// For dark and for light ink, made once for as long as nothing changes: a copy of a font
+    /// shares what was found of its face.
+    Fonts fonts, lightFonts;
 };
 
 Theme::Theme(const Preferences& preferences, const DesktopSettings& desktop)
@@ -142,6 +143,7 @@ Theme::Theme(const Preferences& preferences, const DesktopSettings& desktop)
         subscriptions_->all.emplace_back(property, [this] {
             icons_.clear();
             subscriptions_->fonts.clear();
+            subscriptions_->lightFonts.clear();
             version_ = version_ + 1;
         });
     };
@@ -186,9 +188,8 @@ QFont Theme::font(TextStyle style) const {
 
 QFont Theme::font(TextStyle style, const QColor& ink) const {
     const bool isLight = ink.lightnessF() > 0.5F;
-    auto& made = subscriptions_->fonts;
-    if (const auto found = made.constFind({style, isLight}); found != made.constEnd())
-        return *found;
+    auto& made = isLight ? subscriptions_->lightFonts : subscriptions_->fonts;
+    if (const auto found = made.constFind(style); found != made.constEnd()) return *found;
     const auto& row = rowOf(style);
     QFont font;
     font.setFamilies(families(row.face));
@@ -197,7 +198,7 @@ QFont Theme::font(TextStyle style, const QColor& ink) const {
     font.setWeight(growsHeavy ? lighter(row.weight) : row.weight);
     // Ligatures of a mono face would join the hyphens of "--name".
     if (row.face == Face::mono) font.setStyleStrategy(QFont::PreferNoShaping);
-    made.insert({style, isLight}, font);
+    made.insert(style, font);
     return font;
 }
 
