@@ -34,6 +34,8 @@ constexpr std::array kLocalKeys{
     LocalKey{nullptr, "Ten steps", "Shift+Arrows, Page Up, Page Down"},
     LocalKey{nullptr, "Apply", "Enter"},
     LocalKey{nullptr, "Revert, then close", "Esc"},
+    LocalKey{"Library", "Walk", "Arrows, Home, End"},
+    LocalKey{nullptr, "Unfold, fold", "Right, Left"},
     LocalKey{"Picture", "Walk the pins", "Tab"},
     LocalKey{nullptr, "Move by 1 pixel, by 10", "Arrows, Shift+Arrows"},
     LocalKey{nullptr, "Add the colour at the cross", "Enter"},

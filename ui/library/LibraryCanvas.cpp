@@ -23,8 +23,8 @@ constexpr int kBar = 12, kStep = 52;
 LibraryCanvas::LibraryCanvas(Ui& ui, LibraryModel& model, QWidget* parent)
     : Canvas(ui.theme, parent), ui_(ui), model_(model), painter_(ui, model),
       bar_(new QScrollBar(Qt::Vertical, this)) {
-    setAccessibleName(worded("Library"));
     containerRole = QAccessible::Tree;
+    setAccessibleName(worded("Library"));
     bar_->setFocusPolicy(Qt::NoFocus);
     bar_->setSingleStep(kStep);
     QObject::connect(bar_, &QScrollBar::valueChanged, this, [this] { relayout(); });

@@ -4,12 +4,12 @@
 #include "ui/library/LibraryWords.h"
 #include "ui/library/SwatchStrip.h"
 #include "ui/shared/Controls.h"
+#include "ui/shared/Lines.h"
 #include "ui/shared/SwatchPainter.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
 #include <QFontMetricsF>
-#include <QTextLayout>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -35,20 +35,6 @@ std::array<int, 4> radiiOf(const QRectF& cell, const QRectF& in, std::array<int,
 }
 
 constexpr std::array<int, 4> kAllRound{kStripRadius, kStripRadius, kStripRadius, kStripRadius};
-
-/// The lines of a text and how high they are.
-struct Lines {
-    Lines(const QString& text, const QFont& font, qreal width) {
-        QTextLayout layout(text, font);
-        layout.beginLayout();
-        for (auto line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-            line.setLineWidth(width);
-            all << text.mid(line.textStart(), line.textLength()).trimmed();
-        }
-        layout.endLayout();
-    }
-    QStringList all;
-};
 
 } // namespace
 
@@ -174,17 +160,17 @@ void LibraryPainter::note(QPainter& painter, const QRectF& in, const LibraryNote
               QRectF(left + 20, in.top(), end - left - 20, in.height()), note.text);
         return;
     }
-    const Lines lines(note.text, font,
-                      std::min<qreal>(in.width() - 2 * left, theme.scaled(kNoteWidth)));
+    const auto lines = evenLinesOf(
+        note.text, font, std::min<qreal>(in.width() - 2 * left, theme.scaled(kNoteWidth)));
     const qreal line = theme.lineHeight(TextStyle::body);
     auto y = noteButton(in, note, left).top() - kNoteButtonGap -
-             line * static_cast<qreal>(lines.all.size()) - kNoteGap;
+             line * static_cast<qreal>(lines.size()) - kNoteGap;
     const qreal title = theme.lineHeight(TextStyle::title);
     write(painter, TextStyle::title, Token::ink,
           QRectF(in.left() + left, y - title, in.width() - 2 * left, title), note.title,
           Qt::AlignHCenter);
     y += kNoteGap;
-    for (const auto& text : lines.all) {
+    for (const auto& text : lines) {
         write(painter, TextStyle::body, Token::ink2, QRectF(in.left(), y, in.width(), line), text,
               Qt::AlignHCenter);
         y += line;
@@ -198,10 +184,11 @@ QRectF LibraryPainter::noteButton(const QRectF& in, const LibraryNote& note, qre
     const qreal high = theme.scaled(kButton);
     if (note.title.isEmpty())
         return {in.right() - left - wide, in.center().y() - high / 2, wide, high};
-    const Lines lines(note.text, theme.font(TextStyle::body),
-                      std::min<qreal>(in.width() - 2 * left, theme.scaled(kNoteWidth)));
+    const auto lines =
+        evenLinesOf(note.text, theme.font(TextStyle::body),
+                    std::min<qreal>(in.width() - 2 * left, theme.scaled(kNoteWidth)));
     const auto words = theme.lineHeight(TextStyle::title) + 2 * kNoteGap +
-                       theme.lineHeight(TextStyle::body) * static_cast<int>(lines.all.size());
+                       theme.lineHeight(TextStyle::body) * static_cast<int>(lines.size());
     const auto whole = words + (note.action.isEmpty() ? 0 : kNoteButtonGap + high);
     const auto top = in.top() + std::max<qreal>(0, std::round((in.height() - whole) / 2)) + words;
     return {std::round(in.center().x() - wide / 2), top + kNoteButtonGap, wide, high};

@@ -123,8 +123,10 @@ void LibraryTools::syncField() {
     if (color) font.setPixelSize(theme.font(TextStyle::body).pixelSize());
     field_->setFont(font);
     const auto count = static_cast<qsizetype>(model_.listing().content->palettes.size());
-    field_->setPlaceholderText(worded("Search %n palette, a swatch name, or a colour",
-                                      "Search %n palettes, a swatch name, or a colour", count));
+    field_->setPlaceholderText(count == 0 ? worded("Search palettes, a swatch name, or a colour")
+                                          : worded("Search %n palette, a swatch name, or a colour",
+                                                   "Search %n palettes, a swatch name, or a colour",
+                                                   count));
     mark_->setIcon(theme.icon("search", 16, theme.color(Token::ink), ratio));
     clear_->setIcon(theme.icon("close", 16, theme.color(Token::ink2), ratio));
     clear_->setVisible(!field_->text().isEmpty());

@@ -6,8 +6,8 @@
 namespace tintra {
 namespace {
 
-/// How much wider a matched swatch is, and the least that shows what it is; px.
-constexpr qreal kMatchedShare = 1.7, kLeastMatched = 44;
+/// How much wider a matched swatch is, px.
+constexpr qreal kMatchedMore = 44;
 constexpr qreal kLeastRow = 4;
 
 /// From the i-th of n equal parts of a length, in whole pixels.
@@ -35,9 +35,8 @@ std::vector<StripCell> stripCells(const QRectF& in, std::size_t count,
         addEven(cells, in, 0, count);
         return cells;
     }
-    const auto even = in.width() / (static_cast<qreal>(count) - 1 + kMatchedShare);
-    const auto wide = std::round(
-        std::min(in.width(), std::max(even * kMatchedShare, std::min(kLeastMatched, in.width()))));
+    const auto more = std::min(kMatchedMore, in.width() / 2);
+    const auto wide = std::round((in.width() - more) / static_cast<qreal>(count) + more);
     const auto before = count > 1 ? std::round((in.width() - wide) * static_cast<qreal>(*matched) /
                                                static_cast<qreal>(count - 1))
                                   : 0;

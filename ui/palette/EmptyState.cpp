@@ -2,6 +2,7 @@
 
 #include "ui/actions/ActionTable.h"
 #include "ui/shared/Controls.h"
+#include "ui/shared/Lines.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
@@ -9,7 +10,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTextLayout>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -37,29 +37,6 @@ constexpr std::array kBeginnings{
     Beginning{"picture", "Open a picture", ActionId::openPicture, &EmptyState::openPicture},
     Beginning{"folder", "Open a palette…", ActionId::open, &EmptyState::openPalette},
 };
-
-QStringList linesOf(const QString& text, const QFont& font, qreal width) {
-    QStringList lines;
-    QTextLayout layout(text, font);
-    layout.beginLayout();
-    for (auto line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width);
-        lines.push_back(text.mid(line.textStart(), line.textLength()).trimmed());
-    }
-    layout.endLayout();
-    return lines;
-}
-
-/// As many lines as the width asks for, of lengths as even as can be.
-QStringList evenLinesOf(const QString& text, const QFont& font, qreal width) {
-    const auto count = linesOf(text, font, width).size();
-    auto narrow = width / 2, wide = width;
-    while (wide - narrow > 4) {
-        const auto middle = (narrow + wide) / 2;
-        (linesOf(text, font, middle).size() > count ? narrow : wide) = middle;
-    }
-    return linesOf(text, font, wide);
-}
 
 } // namespace
 
