@@ -11,6 +11,7 @@
 #include "ui/contrast/EntryList.h"
 #include "ui/frame/FactsLine.h"
 #include "ui/frame/ToolLine.h"
+#include "ui/paste/PasteSheet.h"
 #include "ui/shared/ColourMime.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Text.h"
@@ -22,6 +23,23 @@
 #include <algorithm>
 
 namespace tintra {
+namespace {
+
+PasteTarget pasteTarget(Ui& ui) {
+    return {[] {
+                return PasteTarget::Words{
+                    worded("One per line, or a whole stylesheet. Hex, rgb(), hsl(), oklch(), lab() "
+                           "and CSS colour names are understood; a variable’s name becomes the "
+                           "colour’s."),
+                    worded("Send to Contrast")};
+            },
+            [&ui](std::span<const PaletteFile::Swatch> swatches) {
+                takeInContrast(ui, swatches, std::nullopt);
+            },
+            ui.models.contrast().vision};
+}
+
+} // namespace
 
 ContrastWindow::ContrastWindow(Ui& ui)
     : MainWindow(ui, WindowKind::contrast, {ToastWindow::contrast, {}}),
@@ -167,7 +185,10 @@ void ContrastWindow::pasteColours() {
     if (mime) receiveInContrast(ui(), dropped(*mime), std::nullopt);
 }
 
-void ContrastWindow::showPasteSheet() {}
+void ContrastWindow::showPasteSheet() {
+    if (!pasteSheet_) pasteSheet_ = new PasteSheet(ui(), pasteTarget(ui()), this);
+    pasteSheet_->present();
+}
 
 void ContrastWindow::beginRename() {
     if (const auto id = entry()) {

@@ -15,6 +15,7 @@ namespace tintra {
 class ContrastBoard;
 class ContrastBody;
 class FactsLine;
+class PasteSheet;
 class PopUpButton;
 class Segmented;
 class ToolLine;
@@ -61,6 +62,7 @@ private:
     PopUpButton* target_;
     ContrastBody* body_;
     FactsLine* facts_;
+    PasteSheet* pasteSheet_ = nullptr; ///< made when it is first asked for
     Subscriptions subscriptions_;
 };
 
