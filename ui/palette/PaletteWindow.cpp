@@ -191,7 +191,7 @@ void PaletteWindow::setDisplay(PaletteDisplay display) {
 }
 
 void PaletteWindow::showPasteSheet() {
-    if (!parts_->pasteSheet) parts_->pasteSheet = new PasteSheet(ui(), state_, this);
+    if (!parts_->pasteSheet) parts_->pasteSheet = new PasteSheet(ui(), pasteTarget(state_), this);
     parts_->pasteSheet->present();
 }
 
