@@ -88,7 +88,7 @@ protected:
     virtual bool activates(const CanvasItem& item) const;
     /// Makes one item the selected one (-1: none), without laying out anew.
     void markSelected(int item);
-    /// Puts an item in the place of one that has the same rectangle, without laying out anew.
+    /// Puts what has changed of one item in its place, and repaints it where it was and is.
     void setItem(int item, CanvasItem now);
     /// How far beyond its rectangle an item paints, px.
     virtual int overhang() const { return 6; }
