@@ -73,6 +73,10 @@ class Node:
         answer = self.call(PREFIX + "Accessible", "GetChildren")
         return [Node(self.bus, owner, path) for owner, path in answer[0]] if answer else []
 
+    @property
+    def parent(self):
+        return Node(self.bus, *(self.get("Accessible", "Parent") or (self.owner, "/")))
+
     def shown(self):
         """This and what it shows, from the outside in."""
         yield self

@@ -18,7 +18,7 @@ TOOLS = ("Xvfb", "openbox", "dbus-daemon", "xclip", "xdotool", "xprop")
 LIBC = ctypes.CDLL(None)
 LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 # A program under the sanitizers on a busy machine is still in time.
-PATIENCE = 10.0
+PATIENCE = 25.0
 
 
 class NotSeen(AssertionError):

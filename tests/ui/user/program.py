@@ -11,7 +11,7 @@ class Program:
         self.desktop, self.bus = desktop, bus
         self.process = desktop.start(str(path), [str(argument) for argument in arguments])
         self.log_path = desktop.root / (path.name + ".log")
-        self.popups = []
+        self.popups, self.shown_lately = [], []
         # What pops up is in nobody's list of children: a screen reader meets it when it shows.
         bus.signal_subscribe(None, "org.a11y.atspi.Event.Object", "StateChanged", None, "showing",
                              0, self.showed)
@@ -99,13 +99,17 @@ class Program:
 
     def showed(self, _connection, owner, path, _interface, _signal, _values):
         node = Node(self.bus, owner, path)
-        if node not in self.popups:
-            self.popups.append(node)
+        if node not in self.shown_lately:
+            self.shown_lately.append(node)
 
     def live_popups(self):
         while GLib.MainContext.default().iteration(False):
             pass
-        self.popups = [node for node in self.popups if "showing" in node.states]
+        new = [node for node in self.shown_lately if node not in self.popups]
+        self.shown_lately = []
+        self.popups = [node for node in self.popups if "showing" in node.states] + [
+            node for node in new if "showing" in node.states
+            and (node.role == "popup menu" or node not in node.parent.children)]
         return self.popups
 
     def menu_items(self):

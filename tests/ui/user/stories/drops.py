@@ -1,6 +1,6 @@
 """Drags between programs, and what nobody can use."""
 
-from desktop import png, until
+from desktop import until
 
 TEXT, COLOUR, FILES = "text/plain", "application/x-color", "text/uri-list"
 
@@ -11,8 +11,8 @@ def tell(user, desktop):
         file.truncate(500_000_000)
     (desktop.home / "folder.gpl").mkdir()
     other = user.starts_other(f"{TEXT}=rebeccapurple", f"{COLOUR}=#3e7cb1",
-                              f"{FILES}=file://{huge}\r\n", f"application/x-nonsense=?",
-                              f"image/png=no picture")
+                              f"{FILES}=file://{huge}\r\n", "application/x-nonsense=?",
+                              "image/png=no picture")
     offers = {node.name: user.place(node) for node in other.everything.all("label")}
     tintra = user.starts()
     canvas = lambda: user.place(tintra.sees("list"), 0.9)

@@ -70,9 +70,9 @@ def goes_through_menus(user, tintra):
     tintra.has_focus("cell")
     user.presses_key_until("F6", lambda: any(
         node.name.startswith("Mode:") for node in tintra.focus()))
-    user.keys("space")
-    user.keys("Up", "Return")
-    tintra.has_focus("list item", "Amber")
+    user.keys("space", "Up", "Return")
+    tintra.sees("push button", "Mode: Palette")
+    user.presses_key_until("F6", lambda: any(node.name == "Amber" for node in tintra.focus()))
 
 
 def folds_and_moves(user, tintra):

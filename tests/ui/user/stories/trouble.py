@@ -1,6 +1,6 @@
 """Files that are none, and windows that are closed at the wrong moment. Nothing is lost."""
 
-from desktop import png, until
+from desktop import png
 
 
 def tell(user, desktop):
