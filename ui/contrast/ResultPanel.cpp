@@ -12,7 +12,7 @@
 namespace tintra {
 namespace {
 
-constexpr int kTop = 16, kSide = 20, kGap = 28, kNarrowGap = 16, kVerdict = 312, kLeast = 224;
+constexpr int kTop = 16, kSide = 20, kGap = 28, kNarrowGap = 16, kVerdict = 312, kLeast = 240;
 
 } // namespace
 

@@ -116,7 +116,10 @@ void SpecimenBar::layOut() {
         swap_->setToolTip(words + QStringLiteral(" (X)"));
         swap = theme.scaled(36);
     }
-    swap_->setGeometry(width() - kInset - swap, top, swap, high);
+    // A button keeps room for its ring around what is painted of it.
+    constexpr int kRing = 4;
+    const auto button = swap_->sizeHint().height();
+    swap_->setGeometry(width() - kInset + kRing - swap, (height() - button) / 2, swap, button);
     notePlace_ = QRect(left, 0, std::max(0, swap_->x() - kGap - left), height());
     setToolTip(note_);
     update();
