@@ -8,11 +8,12 @@ FUZZ_SECONDS ?= 60
 JOBS ?= $(shell nproc)
 SOURCES = $(shell git ls-files '*.h' '*.cpp')
 
-.PHONY: help run test bench fuzz format lint install packages clean
+.PHONY: help run test tour bench fuzz format lint install packages clean
 
 help:
-	@echo "make run      install what is missing, build, and do the main job"
+	@echo "make run      install what is missing, build, and open the application"
 	@echo "make test     install what is missing, build, and run every test (also under sanitizers)"
+	@echo "make tour     take the pictures of docs/images anew"
 	@echo "make bench    run the benchmarks"
 	@echo "make fuzz     run each fuzz target for FUZZ_SECONDS (default 60)"
 	@echo "make format   format the sources"
@@ -26,13 +27,18 @@ packages:
 run:
 	@scripts/install-packages build
 	@scripts/build release
-	@scripts/demonstrate build/release/bin/tintra tintra-demo
+	@scripts/open build/release/bin tintra-demo
 
 test: packages
 	@scripts/build release
 	ctest --preset release
 	@scripts/build sanitize
 	ctest --preset sanitize
+
+tour:
+	@scripts/install-packages build
+	@scripts/build release --target tintra_tour
+	build/release/bin/tintra-tour docs/images
 
 bench: packages
 	@scripts/build release

@@ -1,3 +1,4 @@
+#include "benchmarks/OffscreenApplication.h"
 #include "state/Preferences.h"
 #include "tests/ui/Desk.h"
 #include "ui/editor/EditorPanel.h"
@@ -7,18 +8,9 @@
 namespace tintra {
 namespace {
 
-QApplication& application() {
-    static int count = 1;
-    static char name[] = "bench_ui_editor";
-    static char* names[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication app(count, names);
-    return app;
-}
-
 /// A step of a drag of the hue, which changes every gradient of the panel, until it is painted.
 void dragHue(benchmark::State& run) {
-    application();
+    bench::offscreenApplication();
     test::Desk desk;
     desk.models.preferences().editorSpace = static_cast<EditorSpace>(run.range(0));
     auto& state = desk.stateWith(1);

@@ -35,7 +35,7 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 # of programs and of modules, which stand in subfolders of their own.
 function(tintra_library name)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
-    list(FILTER sources EXCLUDE REGEX "/(program|desktop)/")
+    list(FILTER sources EXCLUDE REGEX "/(program|desktop|tour)/")
     add_library(tintra_${name} STATIC ${sources})
     add_library(Tintra::${name} ALIAS tintra_${name})
     target_link_libraries(tintra_${name} PUBLIC tintra_options ${ARGN})

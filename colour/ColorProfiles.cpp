@@ -86,6 +86,12 @@ const std::vector<ColorProfiles::NamedSpace>& ColorProfiles::rgbSpaces() {
 }
 
 void ColorProfiles::selectRGB(std::string_view name) {
+    // The others are made when one of them is asked for.
+    if (const auto usual = ColourSpace::sRGB(); usual && usual->localizedName() == name) {
+        selectedRGB_ = name;
+        rgbSpace_.store(usual.get(), std::memory_order_release);
+        return;
+    }
     const auto& spaces = rgbSpaces();
     const auto found = std::find_if(spaces.begin(), spaces.end(),
                                     [name](const auto& each) { return each.name == name; });
@@ -106,8 +112,13 @@ std::shared_ptr<const ColourSpace> ColorProfiles::openProfile(std::string_view n
 }
 
 void ColorProfiles::selectCMYK(std::string_view name) {
-    loadIfNeeded();
-    auto space = openProfile(name);
+    // The usual choice is at hand: no folder is read for it, which a start of the program would
+    // wait for.
+    std::shared_ptr<const ColourSpace> space;
+    if (name != kDefaultCmyk) {
+        loadIfNeeded();
+        space = openProfile(name);
+    }
     if (!space) {
         selectedCMYK_ = kDefaultCmyk;
         cmykSpace_.store(nullptr, std::memory_order_release);

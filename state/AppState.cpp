@@ -122,7 +122,14 @@ void AppState::followInEditor(const std::vector<PaletteSwatch>& before) {
     if (!buffer) return;
     const auto at = indexOf(buffer->swatchID);
     if (!at) {
-        editorBuffer = std::nullopt;
+        // The editor goes on with the swatch that takes the place of the one that is gone, unless
+        // all of them are others.
+        const bool goesOn = std::ranges::any_of(
+            before, [this](const PaletteSwatch& one) { return indexOf(one.id).has_value(); });
+        const auto next = goesOn ? selectedSwatch.value() : std::nullopt;
+        editorBuffer =
+            next ? std::optional(EditorBuffer{swatches()[*next].id, swatches()[*next].color})
+                 : std::nullopt;
         return;
     }
     // An edit that has begun stays; an untouched editor shows the swatch as it is.

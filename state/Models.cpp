@@ -17,7 +17,7 @@ struct Models::Parts {
         : services(given), preferences(services), undo(services), store(std::move(surroundings)),
           workspaces(services, preferences, undo, store), bench(services, workspaces, undo),
           contrast(services, workspaces), vision(workspaces, bench, contrast),
-          keepingNotice(services, workspaces) {
+          recentPalettes(services, workspaces), keepingNotice(services, workspaces) {
         workspaces.attach(bench, contrast);
         undo.attach(workspaces, bench);
     }
@@ -38,6 +38,7 @@ struct Models::Parts {
     Bench bench;
     ContrastBoard contrast;
     VisionSimulation vision;
+    RecentPalettes recentPalettes;
     KeepingNotice keepingNotice;
 
     std::function<ThemeSurfaces()> themeSurfaces;
@@ -76,6 +77,9 @@ Workspaces& Models::workspaces() {
 VisionSimulation& Models::vision() {
     return parts_->vision;
 }
+RecentPalettes& Models::recentPalettes() {
+    return parts_->recentPalettes;
+}
 const QProperty<std::uint64_t>& Models::libraryVersion() const {
     return parts_->libraryVersion;
 }
@@ -98,6 +102,7 @@ Models::Opening Models::start(const std::function<void(const Uuid&)>& openWindow
         parts.workspaces.startClean();
     if (parts.workspaces.order().value().empty() && opening == Opening{})
         parts.openFirst(openWindow);
+    parts.recentPalettes.start();
     parts.wireLibrary();
     parts.watchSharedModels();
     return opening;

@@ -7,6 +7,7 @@
 #include "state/Bench.h"
 #include "state/ContrastBoard.h"
 #include "state/Preferences.h"
+#include "state/RecentPalettes.h"
 #include "state/VisionSimulation.h"
 #include "state/Workspaces.h"
 
@@ -33,6 +34,7 @@ public:
     ContrastBoard& contrast();
     Workspaces& workspaces();
     VisionSimulation& vision();
+    RecentPalettes& recentPalettes();
 
     /// What the interface lays behind colours now; a front end whose theme has surfaces hands it
     /// in.

@@ -192,7 +192,10 @@ void Preferences::resetToDefaults() {
 void Preferences::follow(ColorProfiles& profiles) {
     const auto keep = [this](const auto& property, auto apply) {
         apply();
-        subscriptions_->all.emplace_back(property, std::move(apply));
+        subscriptions_->all.emplace_back(property, [this, apply = std::move(apply)] {
+            apply();
+            profilesVersion = profilesVersion.value() + 1;
+        });
     };
     keep(rgbProfile, [this, &profiles] { profiles.selectRGB(rgbProfile.value()); });
     keep(cmykProfile, [this, &profiles] { profiles.selectCMYK(cmykProfile.value()); });

@@ -83,6 +83,9 @@ public:
     QProperty<bool> libraryFindRequested{false};
     QProperty<bool> shortcutsTabRequested{false};
     QProperty<std::uint64_t> scanGeneration{0};
+    /// Goes up when the profiles have followed the settings that choose them: codes and figures
+    /// that go through a profile may read differently then.
+    QProperty<std::uint64_t> profilesVersion{0};
 
     /// Windows that models and menus ask for; set by the front end, empty until then.
     struct WindowRequests {

@@ -138,8 +138,13 @@ void Workspaces::forget(const Uuid& window, bool wasPrimary) {
 // The model may be in the middle of the very call that closes it.
 void Workspaces::destroyLater(std::unique_ptr<AppState> state) {
     closing_.push_back(std::move(state));
+    // The window goes on the main loop too, and what waits there for it still reads the model: the
+    // model goes a turn later.
     services_.mainLoop.post([this, alive = std::weak_ptr(alive_)] {
-        if (!alive.expired()) closing_.clear();
+        if (alive.expired()) return;
+        services_.mainLoop.post([this, alive] {
+            if (!alive.expired()) closing_.clear();
+        });
     });
 }
 

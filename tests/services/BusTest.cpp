@@ -1,14 +1,13 @@
 #include "platform/desktop/services/DBusFileBrowser.h"
 #include "platform/desktop/services/DesktopNotifications.h"
-#include "tests/TemporaryFolder.h"
 #include "tests/services/RunningLoop.h"
+#include "tests/support/PrivateBus.h"
 
 #include <gtest/gtest.h>
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
-#include <QProcess>
 #include <optional>
 #include <vector>
 
@@ -31,34 +30,16 @@ public:
 class Bus : public testing::Test {
 protected:
     void SetUp() override {
-        // Without the machine's services: nothing of the user's may start.
-        const auto settings = folder_.write(
-            "bus.conf", R"(<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>
-            <policy context="default"><allow own="*"/><allow send_destination="*"/>
-            <allow receive_sender="*"/></policy></busconfig>)");
-        daemon_.start("dbus-daemon", {"--nofork", "--print-address=1", "--config-file",
-                                      QString::fromStdString(settings.string())});
-        ASSERT_TRUE(daemon_.waitForReadyRead()) << "dbus-daemon does not start";
-        const auto address = QString::fromUtf8(daemon_.readLine()).trimmed();
-        desktop_ = QDBusConnection::connectToBus(address, "desktop");
-        program_ = QDBusConnection::connectToBus(address, "program");
-        ASSERT_TRUE(desktop_.isConnected() && program_.isConnected());
-    }
-    void TearDown() override {
-        for (const auto* name : {"desktop", "program"})
-            QDBusConnection::disconnectFromBus(name);
-        desktop_ = program_ = QDBusConnection(QString());
-        daemon_.terminate();
-        daemon_.waitForFinished();
+        ASSERT_TRUE(desktop_.isConnected() && program_.isConnected())
+            << "dbus-daemon does not start";
     }
     void serve(const char* name, const char* path) {
         ASSERT_TRUE(desktop_.registerVirtualObject(path, &service_));
         ASSERT_TRUE(desktop_.registerService(name));
     }
 
-    const TemporaryFolder folder_;
-    QProcess daemon_;
-    QDBusConnection desktop_{QString()}, program_{QString()};
+    PrivateBus bus_;
+    QDBusConnection desktop_ = bus_.connection("desktop"), program_ = bus_.connection("program");
     Service service_;
 };
 

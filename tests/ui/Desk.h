@@ -233,16 +233,19 @@ inline bool doDefault(QAccessibleInterface* thing) {
     return true;
 }
 
-/// The accessible children of a widget, a line each: "name; value; description".
+/// The accessible children of a widget, a line each: "name; value; description". Descriptions begin
+/// with the value, which stands once.
 inline std::vector<std::string> children(QWidget& of) {
     std::vector<std::string> lines;
     auto* in = QAccessible::queryAccessibleInterface(&of);
     for (int i = 0; in && i < in->childCount(); ++i) {
         const auto* child = in->child(i);
-        lines.push_back(
-            toUtf8(QStringList{child->text(QAccessible::Name), child->text(QAccessible::Value),
-                               child->text(QAccessible::Description)}
-                       .join(QStringLiteral("; "))));
+        const auto value = child->text(QAccessible::Value);
+        auto said = child->text(QAccessible::Description);
+        if (said.startsWith(value)) said.remove(0, value.size());
+        if (!value.isEmpty() && said.startsWith(QStringLiteral(", "))) said.remove(0, 2);
+        lines.push_back(toUtf8(
+            QStringList{child->text(QAccessible::Name), value, said}.join(QStringLiteral("; "))));
     }
     return lines;
 }

@@ -183,6 +183,29 @@ TEST_F(Editor, FieldsShowAtOnceAndEnterApplies) {
     EXPECT_FALSE(desk.models.undo().canUndo());
 }
 
+TEST_F(Editor, CodesAreMeantInTheSpaceTheyAreShownIn) {
+    type("Code", "#ff8800", "Return");
+    EXPECT_EQ(held(), hex("ff8800"));
+    preferences.rgbProfile = "Display P3";
+    EXPECT_NE(field("Code").text(), QStringLiteral("#ff8800")) << "shown anew at once";
+    type("Code", "#ff8800", "Return");
+    EXPECT_EQ(field("Code").text(), QStringLiteral("#ff8800"));
+    EXPECT_GT(held().r, 1) << "beyond sRGB";
+    preferences.format = ColorFormat(ColorFormat::cssHSL);
+    type("Code", "hsl(120, 100%, 50%)", "Return");
+    EXPECT_EQ(held(), hex("00ff00")) << "a code of sRGB whatever the profile";
+    preferences.rgbProfile = std::string(ColorProfiles::kDefaultRgb);
+}
+
+TEST_F(Editor, GoesOnWhenItsSwatchIsRemoved) {
+    state.removeSwatch(1);
+    EXPECT_EQ(state.editorBuffer.value()->swatchID, state.swatches()[1].id);
+    EXPECT_EQ(now(), Desk::colour(2));
+    const std::vector others{hex("102030"), hex("405060")};
+    state.replacePalette(others, {});
+    EXPECT_FALSE(state.editorBuffer.value()) << "nothing of what was edited is left";
+}
+
 TEST_F(Editor, SlidersAreDraggedAndStepped) {
     preferences.editorSpace = EditorSpace::hsb;
     auto& track = slider("Saturation");

@@ -173,6 +173,17 @@ TEST(Keys, OfACanvasRestWhileAToolHasTheKeyboard) {
     EXPECT_EQ(shown.state.swatches().size(), 2U);
 }
 
+TEST(Keys, GoBackToTheSwatchesWhenTheEditorCloses) {
+    Shown shown;
+    auto* canvas = QApplication::focusWidget();
+    press("Return");
+    press("F6");
+    ASSERT_NE(QApplication::focusWidget(), canvas);
+    press("Esc");
+    EXPECT_FALSE(shown.state.editorBuffer.value());
+    EXPECT_EQ(QApplication::focusWidget(), canvas);
+}
+
 TEST(Keys, SpaceShowsTheColourAloneWhileHeld) {
     Shown shown;
     auto* canvas = QApplication::focusWidget();

@@ -3,12 +3,15 @@
 #include "state/AppUndo.h"
 #include "state/Bench.h"
 #include "tests/ui/Desk.h"
+#include "ui/actions/ActionTable.h"
 #include "ui/palette/PaletteCanvas.h"
+#include "ui/picture/PicturePane.h"
 #include "ui/shared/ColourMime.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QMenu>
 #include <QUrl>
 
 namespace tintra::test {
@@ -227,6 +230,91 @@ TEST(PaletteWindow, TakesFilesAndTextAnywhere) {
     EXPECT_EQ(window.windowTitle(), QStringLiteral("two[*] — Tintra"));
     nonsense.setData(QStringLiteral("application/x-nonsense"), "?");
     EXPECT_FALSE(drop(window, {5, 5}, nonsense).entered);
+}
+
+TEST(PaletteWindow, SaysNoToWhatADragCannotLeave) {
+    Desk desk;
+    auto& state = desk.stateWith(2);
+    PaletteWindow window(desk.ui, state);
+    open(window, {960, 600});
+    state.isPictureWindowOpen = true;
+    QCoreApplication::processEvents();
+    auto* pane = child<PicturePane>(window);
+    const auto band = mimeOf({{0, 1, 1, 1}, {}, DragOfBand{}}, {});
+    const auto known = mimeOf({Desk::colour(1), {}, DragOfBand{}}, {});
+    QMimeData text;
+    text.setText(QStringLiteral("#123456"));
+    for (const auto* refused : {band.get(), &text}) {
+        const auto onPicture = drop(*pane, {30, 30}, *refused);
+        EXPECT_TRUE(onPicture.entered) << "so that the window behind is not asked";
+        EXPECT_FALSE(onPicture.taken);
+    }
+    EXPECT_THAT(state.swatches(), SizeIs(2));
+    desk.notices();
+    const QPoint onTools(5, 5);
+    QDragEnterEvent enter(onTools, Qt::CopyAction, known.get(), Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window, &enter);
+    QDragMoveEvent over(onTools, Qt::CopyAction, known.get(), Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&window, &over);
+    EXPECT_TRUE(over.isAccepted());
+    EXPECT_EQ(over.dropAction(), Qt::IgnoreAction) << "the cursor says no";
+    EXPECT_FALSE(state.fileIsOver.value());
+    drop(window, onTools, *known);
+    EXPECT_THAT(desk.notices(), ElementsAre("#439701 is already in this palette"));
+    EXPECT_TRUE(drop(window, onTools, *band).taken);
+    EXPECT_THAT(state.swatches(), SizeIs(3));
+}
+
+TEST(PaletteCanvas, ScrollsOnWhileADragRestsAtAnEdge) {
+    Desk desk;
+    PaletteWindow window(desk.ui, desk.stateWith(200));
+    open(window, {960, 500});
+    auto& canvas = canvasOf(window);
+    const auto top = [&] { return canvas.visibleRegion().boundingRect().top(); };
+    ASSERT_EQ(top(), 0);
+    const auto data = mimeOf({{1, 0, 1, 0.5}, {}, DragOfBand{}}, {});
+    const auto edge = canvas.visibleRegion().boundingRect().bottom() - 4;
+    QDragEnterEvent enter({300, edge}, Qt::CopyAction, data.get(), Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&canvas, &enter);
+    QDragMoveEvent move({300, edge}, Qt::CopyAction, data.get(), Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&canvas, &move);
+    const auto first = top();
+    desk.desktop.loop.pass(0.5);
+    const auto later = top();
+    EXPECT_GT(later, first) << "without a further move";
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(&canvas, &leave);
+    desk.desktop.loop.pass(0.5);
+    EXPECT_EQ(top(), later);
+}
+
+TEST(PaletteWindow, RemembersWhichFilesWereOpened) {
+    Desk desk;
+    auto& state = desk.stateWith(0);
+    PaletteWindow window(desk.ui, state);
+    const auto context = window.context();
+    EXPECT_FALSE(isEnabled(actionRow(ActionId::openRecent), context));
+    for (const auto* name : {"one.gpl", "two.gpl", "one.gpl"}) {
+        state.open(desk.folder.write(name, "GIMP Palette\n1 2 3 One\n"));
+        desk.settle();
+    }
+    const auto recent = [](const RecentPalettes& of) {
+        std::vector<std::string> names;
+        for (const auto& file : of.files().value())
+            names.push_back(file.filename().string());
+        return names;
+    };
+    EXPECT_THAT(recent(desk.models.recentPalettes()), ElementsAre("one.gpl", "two.gpl"));
+    RecentPalettes later(desk.desktop.services, desk.models.workspaces());
+    later.start();
+    EXPECT_THAT(recent(later), ElementsAre("one.gpl", "two.gpl")) << "in the next run";
+    QMenu menu;
+    actionRow(ActionId::openRecent).fill(menu, context);
+    menu.actions()[1]->trigger();
+    desk.settle();
+    EXPECT_EQ(state.title(), "two");
+    menu.actions().last()->trigger();
+    EXPECT_FALSE(isEnabled(actionRow(ActionId::openRecent), context));
 }
 
 } // namespace

@@ -1,8 +1,15 @@
+#include "state/ContrastBoard.h"
 #include "tests/ui/Desk.h"
+#include "tests/ui/Parts.h"
+#include "ui/actions/ActionTable.h"
 #include "ui/palette/CollapsedStrip.h"
+#include "ui/palette/PaletteWindow.h"
 #include "ui/palette/StripCells.h"
 
 #include <gtest/gtest.h>
+
+#include <QContextMenuEvent>
+#include <QMenu>
 
 namespace tintra::test {
 namespace {
@@ -91,6 +98,45 @@ TEST(StripTest, CopiesAndUnfolds) {
     auto* expand = qobject_cast<QWidget*>(accessible(strip, "Expand")->object());
     click(*expand, QRectF(expand->rect()).center());
     EXPECT_FALSE(state.isCollapsed.value());
+}
+
+TEST(StripTest, IsWorkedWithoutUnfoldingIt) {
+    Desk desk;
+    auto& state = desk.stateWith(4);
+    state.isCollapsed = true;
+    PaletteWindow window(desk.ui, state);
+    open(window);
+    auto& cells = partOf<StripCells>(window);
+    EXPECT_EQ(window.focusWidget(), &cells);
+    const auto menu = [&](std::size_t at) {
+        const auto place = cells.items()[at].rect.center().toPoint();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, cells.mapToGlobal(place));
+        QCoreApplication::sendEvent(&cells, &event);
+        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    };
+    const auto choose = [](QMenu& in, const char* title) {
+        for (auto* action : in.actions())
+            if (action->text() == QString::fromUtf8(title)) action->trigger();
+        in.close();
+        QCoreApplication::processEvents();
+    };
+    auto* opened = menu(2);
+    ASSERT_TRUE(opened);
+    choose(*opened, "Remove");
+    EXPECT_EQ(state.colors(), (std::vector{Desk::colour(0), Desk::colour(1), Desk::colour(3)}));
+    // Of a harmony the colour that has the focus in the strip is meant.
+    state.steps = 5;
+    state.mode = HarmonyMode::ramp;
+    opened = menu(4);
+    ASSERT_TRUE(opened);
+    choose(*opened, "Send to Contrast");
+    ASSERT_EQ(desk.models.contrast().entries().size(), 1U);
+    EXPECT_EQ(desk.models.contrast().entries()[0].color, state.last());
+    state.mode = HarmonyMode::paletteBuilder;
+    EXPECT_TRUE(state.isCollapsed.value());
+    EXPECT_TRUE(perform(ActionId::renameSwatch, window.context()));
+    EXPECT_FALSE(state.isCollapsed.value()) << "a name is edited where it can be seen";
+    EXPECT_TRUE(accessible(window, "Name of the swatch"));
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 #include "ui/shared/Canvas.h"
+#include "ui/shared/PanelAccessibility.h"
 
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QApplication>
 #include <clocale>
 
@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     // What a key press or a drop brings is seen at once.
     QApplication::setEffectEnabled(Qt::UI_AnimateMenu, false);
-    QAccessible::setActive(true);
+    tintra::installPanelAccessibility();
     tintra::installCanvasAccessibility();
     return RUN_ALL_TESTS();
 }

@@ -39,6 +39,10 @@ inline bool hasSwatches(const Context& context) {
 inline bool isBuilder(const Context& context) {
     return state(context).mode.value() == HarmonyMode::paletteBuilder;
 }
+/// What is asked for cannot be seen in a collapsed window.
+inline void unfold(const Context& context) {
+    if (state(context).isCollapsed) state(context).toggleCollapsed();
+}
 inline bool hasTarget(const Context& context) {
     return context.window->target().has_value();
 }

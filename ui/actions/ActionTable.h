@@ -24,6 +24,7 @@ enum class ActionId {
     newPalette,
     newPaletteHere,
     open,
+    openRecent,
     save,
     saveAs,
     duplicatePalette,

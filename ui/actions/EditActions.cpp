@@ -75,7 +75,11 @@ const ActionRow kRows[] = {
      .keys = "Ctrl+Shift+V",
      .in = kColourWindows,
      .menu = MenuId::edit,
-     .perform = [](const Context& c) { c.window->showPasteSheet(); }},
+     .perform =
+         [](const Context& c) {
+             if (c.palette) unfold(c);
+             c.window->showPasteSheet();
+         }},
     {.value = ActionId::clear,
      .raw = "clear",
      .text = "Clear",

@@ -7,6 +7,9 @@
 #include "ui/shared/Text.h"
 
 #include <QMenu>
+#include <algorithm>
+#include <filesystem>
+#include <vector>
 
 namespace tintra::actionRows {
 namespace {
@@ -15,6 +18,34 @@ void fillInstallTargets(QMenu& menu, const Context& context) {
     auto& of = state(context);
     for (const auto& target : context.ui.models.store().installTargets())
         menu.addAction(oneLine(target.title), &menu, [&of, target] { of.installFor(target); });
+}
+
+/// By its name, and by its folder too where another one has the same name.
+QString recentTitle(const std::filesystem::path& file,
+                    const std::vector<std::filesystem::path>& all) {
+    constexpr std::size_t kLongest = 60;
+    const auto name = oneLine(file.filename().string(), kLongest);
+    const bool isOnly =
+        std::ranges::count(all, file.filename(), &std::filesystem::path::filename) < 2;
+    return isOnly ? name
+                  : worded("%1 in %2")
+                        .arg(name, oneLine(file.parent_path().filename().string(), kLongest));
+}
+
+void fillRecent(QMenu& menu, const Context& context) {
+    auto& recent = context.ui.models.recentPalettes();
+    const auto& files = recent.files().value();
+    for (const auto& file : files) {
+        auto title = recentTitle(file, files);
+        title.replace(u'&', QStringLiteral("&&"));
+        menu.addAction(title, &menu, [context, file] { stateInFront(context).open(file); });
+    }
+    menu.addSeparator();
+    menu.addAction(worded("Clear the List"), &menu, [&recent] { recent.clear(); });
+}
+
+bool hasRecent(const Context& context) {
+    return !context.ui.models.recentPalettes().files().value().empty();
 }
 
 bool hasInstallTargets(const Context& context) {
@@ -42,6 +73,13 @@ const ActionRow kRows[] = {
      .in = kEveryWindow,
      .menu = MenuId::file,
      .perform = [](const Context& c) { stateInFront(c).open(); }},
+    {.value = ActionId::openRecent,
+     .raw = "openRecent",
+     .text = "Open Recent",
+     .in = kEveryWindow,
+     .menu = MenuId::file,
+     .isEnabled = hasRecent,
+     .fill = fillRecent},
     {.value = ActionId::save,
      .raw = "save",
      .text = "Save",

@@ -21,6 +21,7 @@ constexpr std::nullopt_t kLine = std::nullopt;
 constexpr MenuRow kFile[] = {newPalette,
                              newPaletteHere,
                              open,
+                             openRecent,
                              kLine,
                              save,
                              saveAs,
@@ -60,6 +61,10 @@ constexpr MenuRow kView[] = {columns, tiles,      kLine, colourEditor, picturePa
 constexpr MenuRow kWindow[] = {openLibrary, openBench, openContrast};
 constexpr MenuRow kHelp[] = {shortcuts, recentNotices, kLine, acknowledgements, about};
 constexpr MenuRow kCanvas[] = {pasteColours, typeOrPaste, addBlankSwatch, kLine, openPicture};
+
+constexpr MenuRow kStrip[] = {copy,           copyAs, kLine,        toggleBench,
+                              sendToContrast, kLine,  pasteColours, kLine,
+                              removeSwatch,   kLine,  collapse};
 
 struct MenuOfBar {
     MenuId id;
@@ -147,6 +152,10 @@ void fillMenuBar(QMenuBar& bar, WindowKind kind, const ContextOf& context) {
             fillWhenOpened(*bar.addMenu(u'&' + worded(menu.title)), menu.id, context);
 }
 
+bool hasMenu(WindowKind kind, MenuId id) {
+    return id != MenuId::none && menuOf(id).in.contains(kind);
+}
+
 void fillMoreMenu(QMenu& menu, const ContextOf& context) {
     const auto kind = context().window->kind();
     for (const auto& one : kMenus)
@@ -169,6 +178,10 @@ void fillBenchMenu(QMenu& menu, bool onItem, const ActionContext& context) {
 
 void fillCanvasMenu(QMenu& menu, const ActionContext& context) {
     addRows(menu, kCanvas, context);
+}
+
+void fillStripMenu(QMenu& menu, const ActionContext& context) {
+    addRows(menu, kStrip, context);
 }
 
 std::vector<ActionId> actionsOf(MenuId id) {

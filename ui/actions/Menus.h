@@ -17,6 +17,7 @@ using ContextOf = std::function<ActionContext()>;
 
 /// The menus that a window of that kind has, each filled when it opens. The caller owns the bar.
 void fillMenuBar(QMenuBar& bar, WindowKind kind, const ContextOf& context);
+bool hasMenu(WindowKind kind, MenuId id);
 /// The same menus as submenus, for the More button.
 void fillMoreMenu(QMenu& menu, const ContextOf& context);
 /// The rows of one menu that the window has.
@@ -28,6 +29,9 @@ void fillSwatchMenu(QMenu& menu, const ActionContext& context);
 void fillBenchMenu(QMenu& menu, bool onItem, const ActionContext& context);
 /// The context menu of an empty place of a palette's canvas.
 void fillCanvasMenu(QMenu& menu, const ActionContext& context);
+
+/// The context menu of a collapsed window: of the colour that has the focus, and of the window.
+void fillStripMenu(QMenu& menu, const ActionContext& context);
 
 /// Every row of the menu of the bar, in order; for tests and for the shortcuts window.
 std::vector<ActionId> actionsOf(MenuId id);

@@ -44,6 +44,7 @@ QString heading(const PaletteEntry& entry, const Preferences& preferences) {
 
 /// To be named and edited, so it has to be seen.
 void addBlankSwatch(const Context& context) {
+    unfold(context);
     state(context).enterPaletteBuilder();
     state(context).addBlankSwatch(true);
 }

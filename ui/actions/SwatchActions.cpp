@@ -92,7 +92,11 @@ const ActionRow kRows[] = {
      .keys = "F2",
      .menu = MenuId::swatch,
      .isEnabled = hasSwatch,
-     .perform = [](const Context& c) { c.palette->beginRename(); }},
+     .perform =
+         [](const Context& c) {
+             unfold(c);
+             c.palette->beginRename();
+         }},
     {.value = ActionId::editColour,
      .raw = "editColour",
      .text = "Edit Colour",
@@ -102,6 +106,7 @@ const ActionRow kRows[] = {
      .isEnabled = hasSwatch,
      .perform =
          [](const Context& c) {
+             unfold(c);
              withSwatch(c, [](AppState& of, std::size_t at) { of.editSwatch(at); });
          }},
     {.value = ActionId::toggleBench,

@@ -14,6 +14,7 @@ bool shows(const Context& context, PaletteDisplay display) {
 }
 
 void togglePicturePane(const Context& context) {
+    unfold(context);
     auto& of = state(context);
     if (of.isPictureWindowOpen.value())
         of.closePicture();
@@ -55,7 +56,11 @@ const ActionRow kRows[] = {
      .keys = "Ctrl+E",
      .menu = MenuId::view,
      .isEnabled = hasSwatches,
-     .perform = [](const Context& c) { state(c).toggleEditor(); },
+     .perform =
+         [](const Context& c) {
+             unfold(c);
+             state(c).toggleEditor();
+         },
      .isOn = [](const Context& c) { return state(c).editorBuffer.value().has_value(); }},
     {.value = ActionId::picturePane,
      .raw = "picturePane",

@@ -93,7 +93,7 @@ void BenchCanvas::subscribe() {
     subscriptions_.add(bench_.vision, [this] { update(); });
     subscriptions_.add(preferences.format, again);
     subscriptions_.add(preferences.formatOptions, again);
-    subscriptions_.add(preferences.rgbProfile, again);
+    subscriptions_.add(preferences.profilesVersion, again);
     subscriptions_.add(theme().version(), again);
 }
 
@@ -104,7 +104,7 @@ void BenchCanvas::contentChanged() {
         return;
     }
     for (std::size_t i = 0; i < now.wells.size(); ++i)
-        if (now.wells[i] != shown_.wells[i]) replaceItem(find(well, i), wellItem(i));
+        if (now.wells[i] != shown_.wells[i]) setItem(find(well, i), wellItem(i));
     shown_ = now;
 }
 

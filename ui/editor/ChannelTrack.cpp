@@ -11,7 +11,7 @@ namespace tintra {
 namespace {
 
 constexpr int kTrack = 12, kThumb = 20;
-constexpr int kCheck = 4; ///< a square of the checkerboard, which repeats every 8 px
+constexpr int kCheck = 8; ///< a square of the checkerboard, px
 
 bool isTranslucent(const GradientStops& stops) {
     return std::any_of(stops.begin(), stops.end(), [](QRgb stop) { return qAlpha(stop) < 255; });

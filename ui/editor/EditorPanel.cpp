@@ -2,6 +2,7 @@
 
 #include "colour/ColorNames.h"
 #include "colour/ColorProfiles.h"
+#include "palettes/PasteColours.h"
 #include "state/Models.h"
 #include "ui/editor/BeforeNow.h"
 #include "ui/editor/ChannelRow.h"
@@ -61,7 +62,7 @@ void EditorPanel::refresh() {
     plane_->show(edited_.hsb(), {color.r, color.g, color.b, 1}, vision);
     refreshRows(color);
     refreshName(*at, color);
-    refreshCode(*at, color);
+    code_->setCode(codeOf(*at, color));
     if (another) dropTyped();
 }
 
@@ -92,12 +93,26 @@ void EditorPanel::refreshName(std::size_t at, const WashColor& color) {
     if (!name_->hasFocus()) name_->setCursorPosition(0);
 }
 
-void EditorPanel::refreshCode(std::size_t at, const WashColor& color) {
+QString EditorPanel::codeOf(std::size_t at, const WashColor& color) const {
     const auto& preferences = ui_.models.preferences();
     const auto& given = state_.swatches()[at].name;
     const auto name = given ? *given : ColorNames::shared().name(color);
-    code_->setCode(fromUtf8(
-        preferences.format.value().string(color, name, preferences.formatOptions.value())));
+    return fromUtf8(
+        preferences.format.value().string(color, name, preferences.formatOptions.value()));
+}
+
+WashColor EditorPanel::asWritten(const WashColor& read) const {
+    const auto at = shownAt();
+    const auto& space = ColorProfiles::shared().rgbSpace();
+    if (!at || &space == ColourSpace::sRGB().get()) return read;
+    const auto inSpace = space.toSrgb({read.r, read.g, read.b, 0});
+    if (!inSpace) return read;
+    const WashColor meant{inSpace->r, inSpace->g, inSpace->b, read.a};
+    const auto isShownSo = [&](const WashColor& color) {
+        return PasteColours::colour(toUtf8(codeOf(*at, color))) == read;
+    };
+    // Codes that are no bytes are of sRGB, and clip what lies beyond.
+    return !isShownSo(read) && isShownSo(meant) ? meant : read;
 }
 
 void EditorPanel::dropTyped() {

@@ -66,7 +66,10 @@ private:
     void refresh();
     void refreshName(std::size_t at, const WashColor& color);
     void refreshRows(const WashColor& color);
-    void refreshCode(std::size_t at, const WashColor& color);
+    QString codeOf(std::size_t at, const WashColor& color) const;
+    /// What was meant by a code that reads as `read`: codes in bytes are shown in the RGB space of
+    /// the settings, and are meant in it when they are typed.
+    WashColor asWritten(const WashColor& read) const;
     void dropTyped();
     void follow();
 

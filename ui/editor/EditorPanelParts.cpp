@@ -12,11 +12,13 @@
 #include "ui/shared/Theme.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -70,6 +72,14 @@ void EditorPanel::makeHead() {
     area_->setWidget(body_);
     body_->setAutoFillBackground(false);
     area_->viewport()->setAutoFillBackground(false);
+    // The bar stands on the margin: nothing is to be had sideways.
+    auto* const sideways = area_->horizontalScrollBar();
+    connect(sideways, &QAbstractSlider::valueChanged, sideways,
+            [sideways] { sideways->setValue(0); });
+    // However the keyboard comes to a control, it is seen.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now && body_->isAncestorOf(now)) area_->ensureWidgetVisible(now);
+    });
 
     name_ = new QLineEdit(body_);
     name_->setAccessibleName(worded("Name of the swatch"));
@@ -129,7 +139,7 @@ void EditorPanel::connectEdits() {
     };
     plane_->hueChanged = [this](double degrees) { put(edited_.setHue(degrees), "hue"); };
     plane_->settled = settled;
-    code_->read = [this](const WashColor& color) { put(color, "code"); };
+    code_->read = [this](const WashColor& color) { put(asWritten(color), "code"); };
     code_->refused = [this](bool is) {
         refusal_->setVisible(is);
         place();
@@ -176,14 +186,7 @@ void EditorPanel::subscribe() {
     subscriptions_->add(preferences.editorSpace, [this] { setSpace(); });
     subscriptions_->add(preferences.editorPicker, [this] { restyle(); });
     subscriptions_->add(ui_.theme.version(), [this] { restyle(); });
-    // The profiles themselves may hear of it after this view.
-    const auto later = [this] {
-        QMetaObject::invokeMethod(
-            this, [this] { setSpace(); }, Qt::QueuedConnection);
-    };
-    subscriptions_->add(preferences.rgbProfile, later);
-    subscriptions_->add(preferences.cmykProfile, later);
-    subscriptions_->add(preferences.labIlluminant, later);
+    subscriptions_->add(preferences.profilesVersion, [this] { setSpace(); });
 }
 
 // Layout
@@ -218,7 +221,13 @@ void EditorPanel::place() {
     const auto foot = std::max(foot_->heightForWidth(width()), foot_->sizeHint().height());
     foot_->setGeometry(0, height() - foot, width(), foot);
     area_->setGeometry(1, 0, width() - 1, height() - foot);
-    body_->resize(width() - 1, placeBody());
+    auto high = placeBody();
+    const auto lack = std::max(0, plane_->lack() + high - area_->height());
+    if (lack != plane_->lack()) {
+        plane_->setLack(lack);
+        high = placeBody();
+    }
+    body_->resize(width() - 1, high);
 }
 
 int EditorPanel::placeBody() {

@@ -7,10 +7,12 @@
 #include "ui/shared/SwatchPainter.h"
 #include "ui/shared/Theme.h"
 
+#include <algorithm>
+
 namespace tintra {
 namespace {
 
-constexpr int kPlaneWidth = 280, kPlaneHeight = 216;
+constexpr int kPlaneWidth = 280, kPlaneHeight = 216, kLeastHeight = 120;
 constexpr int kHue = 20;  ///< from the plane's lower edge down to half of the hue track and beyond
 constexpr int kBelow = 8; ///< what a thumb takes beneath the lowest picture
 
@@ -39,9 +41,24 @@ void EditorPicker::setPicker(PickerStyle style) {
     restyle();
 }
 
+int EditorPicker::planeHeight() const {
+    if (style_ == PickerStyle::wheel) return theme_.scaled(kPlaneHeight);
+    return std::max(theme_.scaled(kPlaneHeight) - lack_, theme_.scaled(kLeastHeight));
+}
+
+int EditorPicker::lack() const {
+    return theme_.scaled(kPlaneHeight) - planeHeight();
+}
+
+void EditorPicker::setLack(int lack) {
+    if (lack == lack_) return;
+    lack_ = lack;
+    restyle();
+}
+
 void EditorPicker::restyle() {
     const auto halo = theme_.scaled(PickerControl::kHalo);
-    auto height = halo + theme_.scaled(kPlaneHeight) + theme_.scaled(kBelow);
+    auto height = halo + planeHeight() + theme_.scaled(kBelow);
     if (style_ == PickerStyle::plane) height += theme_.scaled(kHue) + theme_.scaled(4);
     setFixedSize(theme_.scaled(kPlaneWidth) + 2 * halo, height);
     place();
@@ -54,7 +71,7 @@ void EditorPicker::resizeEvent(QResizeEvent*) {
 
 void EditorPicker::place() {
     const auto halo = theme_.scaled(PickerControl::kHalo);
-    const QRect area(halo, halo, theme_.scaled(kPlaneWidth), theme_.scaled(kPlaneHeight));
+    const QRect area(halo, halo, theme_.scaled(kPlaneWidth), planeHeight());
     if (style_ == PickerStyle::plane) {
         plane_->clearMask();
         plane_->setGeometry(area.adjusted(-halo, -halo, halo, halo));

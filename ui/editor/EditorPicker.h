@@ -25,6 +25,11 @@ public:
     void show(const Figures& hsb, const WashColor& color, Vision vision);
     /// After the theme has changed.
     void restyle();
+    /// Makes the plane lower where the room is short by so much, px, down to its least height;
+    /// the wheel stays as it is.
+    void setLack(int lack);
+    /// What the plane has given up, px: it keeps a least height.
+    int lack() const;
 
     std::function<void(double saturation, double brightness)> planeChanged;
     std::function<void(double degrees)> hueChanged;
@@ -35,12 +40,14 @@ protected:
 
 private:
     void place();
+    int planeHeight() const;
 
     Theme& theme_;
     PickerStyle style_ = PickerStyle::plane;
     ColourWheel* wheel_;
     ColourPlane* plane_;
     ChannelTrack* hue_;
+    int lack_ = 0;
 };
 
 } // namespace tintra

@@ -1,5 +1,6 @@
 #include "ui/editor/PickerControl.h"
 
+#include "ui/shared/AccessibilityEvents.h"
 #include "ui/shared/Theme.h"
 
 #include <QAccessible>
@@ -27,8 +28,10 @@ public:
         return QAccessibleWidget::interface_cast(type);
     }
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Value ? control()->spokenValue()
-                                          : QAccessibleWidget::text(kind);
+        // The bus carries values of numbers only: a plane's, and units, are told by the
+        // description.
+        const bool isValue = kind == QAccessible::Value || kind == QAccessible::Description;
+        return isValue ? control()->spokenValue() : QAccessibleWidget::text(kind);
     }
     QVariant currentValue() const override { return scale().value; }
     void setCurrentValue(const QVariant& value) override { control()->choose(value.toDouble()); }
@@ -75,10 +78,14 @@ void PickerControl::paintThumb(QPainter& painter, QPointF centre, const QColor& 
 }
 
 void PickerControl::announce() {
-    if (!QAccessible::isActive()) return;
-    const auto one = scale();
-    QAccessibleValueChangeEvent event(this, one ? QVariant(one->value) : QVariant(spokenValue()));
-    QAccessible::updateAccessibility(&event);
+    if (!isAccessibilityHeard()) return;
+    if (const auto one = scale()) {
+        QAccessibleValueChangeEvent event(this, one->value);
+        tellAccessibility(event);
+    } else {
+        QAccessibleEvent event(this, QAccessible::DescriptionChanged);
+        tellAccessibility(event);
+    }
 }
 
 void PickerControl::mousePressEvent(QMouseEvent* event) {

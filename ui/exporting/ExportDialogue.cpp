@@ -27,7 +27,6 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QStandardPaths>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -48,8 +47,7 @@ std::filesystem::path& lastFolder() {
 std::filesystem::path firstFolder(const SaveQuestion& question) {
     if (question.folder) return *question.folder;
     if (!lastFolder().empty()) return lastFolder();
-    return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
-        .toStdString();
+    return QFile::encodeName(FileChooser::usualFolder(OpenQuestion::Of::palette)).toStdString();
 }
 
 /// The last two names of a folder's path.

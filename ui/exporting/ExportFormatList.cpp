@@ -114,8 +114,9 @@ void ExportFormatList::paintItem(QPainter& painter, const CanvasItem& item, Item
         painter.drawRoundedRect(item.rect, metrics::kControlRadius, metrics::kControlRadius);
     }
     const auto words = item.rect.adjusted(kInset, 0, -kInset, 0);
-    painter.setFont(theme().font(TextStyle::control));
-    painter.setPen(theme().color(item.selected ? Token::onsel : Token::ink));
+    const auto ink = theme().color(item.selected ? Token::onsel : Token::ink);
+    painter.setFont(theme().font(TextStyle::control, ink));
+    painter.setPen(ink);
     painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter, item.name);
     painter.setFont(theme().font(TextStyle::codeOnSide));
     if (!item.selected) painter.setPen(theme().color(Token::ink3));

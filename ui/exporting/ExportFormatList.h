@@ -29,6 +29,8 @@ protected:
     void paintGround(QPainter& painter, const QRect& dirty) override;
     void paintItem(QPainter& painter, const CanvasItem& item, ItemState state) override;
     void focusMoved(int item) override;
+    /// The focus chooses; the Enter key is the dialogue's.
+    void activate(int) override {}
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

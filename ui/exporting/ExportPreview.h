@@ -28,6 +28,7 @@ protected:
     void paintItem(QPainter& painter, const CanvasItem& item, ItemState state) override;
     int neighbour(int from, Qt::Key key) const override;
     void focusMoved(int item) override;
+    bool activates(const CanvasItem&) const override { return false; }
 
 private:
     enum Kind { line, row, picture, rest };

@@ -8,6 +8,7 @@
 #include "state/Models.h"
 #include "ui/actions/Menus.h"
 #include "ui/actions/Shortcuts.h"
+#include "ui/frame/CalledMenuBar.h"
 #include "ui/frame/WindowFrame.h"
 #include "ui/shared/Canvas.h"
 #include "ui/shared/NoticeBar.h"
@@ -16,7 +17,6 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QMenuBar>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -51,11 +51,10 @@ void MainWindow::copy(std::optional<ColorFormat> as) {
 
 // Put together
 
-QMenuBar* MainWindow::makeMenuBar(QWidget* in) {
-    menuBar_ = new QMenuBar(in);
-    menuBar_->setNativeMenuBar(false);
-    menuBar_->hide();
+QWidget* MainWindow::makeMenuBar(QWidget* in) {
+    menuBar_ = new CalledMenuBar(in);
     fillMenuBar(*menuBar_, kind_, [this] { return context(); });
+    menuBar_->followMenus();
     return menuBar_;
 }
 
@@ -102,15 +101,16 @@ void MainWindow::popUp(QPoint at, const std::function<void(QMenu&)>& fill) {
 
 // Menu bar and regions
 
+bool MainWindow::showsMenuBar() const {
+    return menuBar_->isPinned();
+}
+
 void MainWindow::toggleMenuBar() {
-    pinsMenuBar_ = !pinsMenuBar_;
-    menuBar_->setVisible(pinsMenuBar_);
+    menuBar_->setPinned(!menuBar_->isPinned());
 }
 
 void MainWindow::openMenuBar() {
-    menuBar_->show();
-    menuBar_->setFocus(Qt::MenuBarFocusReason);
-    menuBar_->setActiveAction(menuBar_->actions().first());
+    menuBar_->call();
 }
 
 void MainWindow::focusRegion(int by) {

@@ -18,10 +18,10 @@
 #include <vector>
 
 class QMenu;
-class QMenuBar;
 
 namespace tintra {
 
+class CalledMenuBar;
 class NoticeBar;
 
 /// A colour that actions act on.
@@ -63,10 +63,10 @@ public:
     virtual void pasteColours() {}
     virtual void showPasteSheet() {}
 
-    bool showsMenuBar() const { return pinsMenuBar_; }
+    bool showsMenuBar() const;
     void toggleMenuBar();
     /// Gives the keyboard to the menu bar, shown until it is done with.
-    void openMenuBar();
+    virtual void openMenuBar();
     /// Gives the keyboard to the next (1) or the previous (-1) region.
     void focusRegion(int by);
     void showContextMenu();
@@ -77,7 +77,7 @@ protected:
 
     Ui& ui() const { return ui_; }
     /// The menu bar in the layout of `in`, above all else. Once.
-    QMenuBar* makeMenuBar(QWidget* in);
+    QWidget* makeMenuBar(QWidget* in);
     /// Puts the notices over the body. Once.
     void makeNotices(QWidget* body);
     /// The two above with the tools, the body and the facts, one below the other.
@@ -101,9 +101,8 @@ private:
     Ui& ui_;
     const WindowKind kind_;
     const ToastPlace place_;
-    QMenuBar* menuBar_ = nullptr;
+    CalledMenuBar* menuBar_ = nullptr;
     NoticeBar* notices_ = nullptr;
-    bool pinsMenuBar_ = false;
     bool altAlone_ = false; ///< Alt is held and nothing else was pressed
 };
 

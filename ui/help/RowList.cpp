@@ -11,7 +11,7 @@
 namespace tintra {
 namespace {
 
-constexpr int kGap = 48, kHeading = 26, kBeforeHeading = 14;
+constexpr int kGap = 48, kHeading = 30, kBeforeHeading = 6, kUnderHeading = 6;
 
 } // namespace
 
@@ -78,7 +78,7 @@ std::vector<CanvasItem> RowList::layoutItems(QSizeF size) const {
         item.rect = QRectF(places[i] * (wide + kGap), top, wide, high);
         item.index = i;
         if (rows_[i].isHeading) {
-            heading = rows_[i].text;
+            heading = item.name = rows_[i].text;
             // The space before a heading that begins a column is not needed.
             if (top == 0) item.rect.setHeight(theme().scaled(kHeading));
         } else {
@@ -114,7 +114,8 @@ void RowList::paintItem(QPainter& painter, const CanvasItem& item, ItemState sta
         font.setWeight(QFont::DemiBold);
         painter.setFont(font);
         painter.setPen(theme().color(Token::ink3));
-        painter.drawText(item.rect, Qt::AlignLeft | Qt::AlignBottom, row.text);
+        painter.drawText(item.rect.adjusted(0, 0, 0, -kUnderHeading),
+                         Qt::AlignLeft | Qt::AlignBottom, row.text);
         return;
     }
     const auto words = theme().font(TextStyle::body), keys = theme().font(TextStyle::small);

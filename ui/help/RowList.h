@@ -27,6 +27,7 @@ protected:
     std::vector<CanvasItem> layoutItems(QSizeF size) const override;
     void paintGround(QPainter& painter, const QRect& dirty) override;
     void paintItem(QPainter& painter, const CanvasItem& item, ItemState state) override;
+    bool activates(const CanvasItem&) const override { return false; }
     void resizeEvent(QResizeEvent* event) override;
 
 private:

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <array>
 
@@ -105,6 +106,7 @@ ShortcutsWindow::ShortcutsWindow(Ui& ui) : ui_(ui), field_(new QLineEdit(this)),
     scroll->setWidgetResizable(true);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->verticalScrollBar()->setBackgroundRole(QPalette::Button);
     list_ = new RowList(ui.theme, kColumn, kRow, scroll);
     list_->setAccessibleName(worded("Keyboard Shortcuts"));
     list_->setEmptyText(worded("No command or key like that"));

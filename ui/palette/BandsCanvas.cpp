@@ -61,7 +61,7 @@ void BandsCanvas::subscribe() {
     subscriptions_.add(preferences.formatOptions, repaint);
     subscriptions_.add(preferences.swatchBackdrop, repaint);
     subscriptions_.add(preferences.backdropColour, repaint);
-    subscriptions_.add(preferences.rgbProfile, repaint);
+    subscriptions_.add(preferences.profilesVersion, repaint);
     subscriptions_.add(state_.copyTick, [this] { flashCode(); });
 }
 

@@ -2,13 +2,12 @@
 
 #include "state/Models.h"
 #include "ui/palette/BandsCanvas.h"
-#include "ui/shared/ColourMime.h"
+#include "ui/shared/ColourDrag.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QDrag>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
@@ -143,12 +142,8 @@ void BandsCanvas::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void BandsCanvas::startDrag(Spot spot) {
-    auto look = this->look(items()[static_cast<std::size_t>(itemOf(spot))], {});
-    QDrag drag(this);
-    drag.setMimeData(mimeOf({colorAt(spot), std::nullopt, DragOfBand{}}, code(spot)).release());
-    drag.setPixmap(ui_.painter.card(look, QSize(128, 96), false, devicePixelRatioF()));
-    drag.setHotSpot({30, 30});
-    drag.exec(Qt::CopyAction, Qt::CopyAction);
+    dragColour(*this, ui_.painter, {colorAt(spot), std::nullopt, DragOfBand{}},
+               look(items()[static_cast<std::size_t>(itemOf(spot))], {}), kDragCard);
 }
 
 // The keyboard

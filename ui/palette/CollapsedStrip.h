@@ -19,6 +19,7 @@ public:
     ~CollapsedStrip() override;
 
     Qt::Orientation orientation() const;
+    StripCells& cells() const { return *cells_; }
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

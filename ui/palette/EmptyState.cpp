@@ -19,7 +19,7 @@ namespace tintra {
 namespace {
 
 constexpr int kQuoteWidth = 440, kActionWidth = 324, kAction = 36, kLowestAction = 24;
-constexpr int kMargin = 12, kAuthorGap = 10, kActionsGap = 34, kHintGap = 12;
+constexpr int kMargin = 12, kAuthorGap = 10, kActionsGap = 34;
 
 /// The quotation's size and line height, px, and what it shrinks to where there is little room.
 constexpr std::array<std::pair<int, int>, 3> kQuoteSizes{{{30, 40}, {22, 30}, {16, 22}}};
@@ -98,21 +98,15 @@ CanvasItem EmptyState::actionItem(std::size_t at, const QRectF& rect) const {
 std::vector<CanvasItem> EmptyState::layoutItems(QSizeF size) const {
     const auto width = std::max<qreal>(1, size.width() - 2 * kMargin);
     const auto count = static_cast<int>(kBeginnings.size());
-    // The hint and the quotation get what the actions leave.
-    const auto hintText =
-        worded("Drop colours, palette files or a picture anywhere in this window");
-    const auto hintLines = linesOf(hintText, theme().font(TextStyle::body), width).size();
-    const auto hintHeight = theme().lineHeight(TextStyle::body) * static_cast<int>(hintLines);
+    // The quotation gets what the actions leave.
     const auto row = std::clamp(static_cast<int>(size.height() - 2 * kMargin) / count,
                                 theme().scaled(kLowestAction), theme().scaled(kAction));
     const auto actions = row * count;
-    const bool hasHint = size.height() >= actions + hintHeight + 3 * kHintGap;
-    const auto foot = hasHint ? hintHeight + kHintGap : 0;
     const auto authorLine = theme().lineHeight(TextStyle::body);
     const auto around = kAuthorGap + authorLine + kActionsGap;
-    quote_ = setting(width, size.height() - actions - around - foot - 2 * kMargin);
+    quote_ = setting(width, size.height() - actions - around - 2 * kMargin);
     const auto quote = quote_.lines.isEmpty() ? 0 : quote_.height() + around;
-    auto y = std::max(0, static_cast<int>(size.height() - foot - quote - actions) / 2);
+    auto y = std::max(0, static_cast<int>(size.height() - quote - actions) / 2);
 
     std::vector<CanvasItem> items;
     const auto text = [&](Kind kind, const QRectF& in, const QString& name) {
@@ -132,7 +126,6 @@ std::vector<CanvasItem> EmptyState::layoutItems(QSizeF size) const {
     const auto left = std::round((size.width() - actionWidth) / 2);
     for (std::size_t i = 0; i < kBeginnings.size(); ++i, y += row)
         items.push_back(actionItem(i, QRectF(left, y, actionWidth, row)));
-    if (hasHint) text(hint, QRectF(kMargin, size.height() - foot, width, hintHeight), hintText);
     return items;
 }
 

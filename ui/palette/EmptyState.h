@@ -15,7 +15,7 @@ namespace tintra {
 /// gives way where there is little room, the actions never.
 class EmptyState final : public Canvas {
 public:
-    enum Kind { quotation, author, action, hint };
+    enum Kind { quotation, author, action };
 
     EmptyState(Ui& ui, AppState& state, QWidget* parent);
 

@@ -8,6 +8,7 @@
 #include "state/Models.h"
 #include "state/NoticeTexts.h"
 #include "state/SaveTexts.h"
+#include "ui/paste/PasteReading.h"
 #include "ui/shared/Text.h"
 
 #include <QDropEvent>
@@ -42,6 +43,16 @@ void addFile(Ui& ui, const Uuid& window, const std::filesystem::path& file) {
     });
 }
 
+/// In bytes: what is read within a millisecond or two, and what is read at all.
+constexpr std::size_t kAtOnce = 8'000, kMostText = std::size_t{4} << 20U;
+
+void addRead(AppState& to, const PasteReading& read, Toasts& toasts) {
+    if (read.swatches.empty())
+        toasts.show("Nothing there that reads as a colour", kForExplaining, {}, to.place());
+    else
+        to.receiveSwatches(read.swatches);
+}
+
 } // namespace
 
 bool asksToMove(const QDropEvent& event) {
@@ -52,6 +63,14 @@ bool asksToAdd(const QDropEvent& event) {
     return event.modifiers().testFlag(Qt::ShiftModifier);
 }
 
+bool refusesColour(const AppState& state, const QDropEvent& event) {
+    const auto& data = *event.mimeData();
+    // Nothing else is taken out of a drag before it is dropped.
+    if (!data.hasFormat(QString::fromLatin1(kColourMimeType)) && !data.hasColor()) return false;
+    const auto colour = dropped(data).colour;
+    return colour && state.refusal(*colour, asksToMove(event));
+}
+
 bool receiveColour(Ui& ui, AppState& state, const Drag& drag, std::size_t at, bool moving) {
     if (!state.receive(drag, at, moving)) return false;
     const auto* swatch = std::get_if<DragOfSwatch>(&drag.source);
@@ -59,6 +78,17 @@ bool receiveColour(Ui& ui, AppState& state, const Drag& drag, std::size_t at, bo
     if (auto* source = ui.models.workspaces().state(swatch->origin.windowID))
         source->release(swatch->origin.swatchID);
     return true;
+}
+
+void receiveText(Ui& ui, AppState& state, std::string_view text) {
+    text = text.substr(0, kMostText);
+    if (text.size() <= kAtOnce) return addRead(state, readPasted(text), ui.services.toasts);
+    ui.services.background.run([&ui, window = state.id(), text = std::string(text)] {
+        ui.services.mainLoop.post([&ui, window, read = readPasted(text)] {
+            if (auto* to = ui.models.workspaces().state(window))
+                addRead(*to, read, ui.services.toasts);
+        });
+    });
 }
 
 void receiveFiles(Ui& ui, AppState& state, const Dropped& data, bool adds) {
@@ -79,7 +109,7 @@ void receiveFiles(Ui& ui, AppState& state, const Dropped& data, bool adds) {
         state.loadImage(Bytes(begin, begin + data.picture->size()), toUtf8(worded("Picture")));
         return;
     }
-    if (data.text) state.receiveText(toUtf8(*data.text));
+    if (data.text) receiveText(ui, state, toUtf8(*data.text));
 }
 
 } // namespace tintra

@@ -20,6 +20,14 @@ namespace {
 
 constexpr int kMargin = 12;
 
+/// Hides or shows a panel; the keyboard goes from one that is hidden to `then`, not to whatever
+/// comes next in the window.
+void setShown(QWidget& panel, bool shows, QWidget& then) {
+    if (!shows && panel.isAncestorOf(QApplication::focusWidget()))
+        then.setFocus(Qt::OtherFocusReason);
+    panel.setVisible(shows);
+}
+
 /// Shows where a drop would go that goes to the window as a whole.
 class DropRing final : public QWidget {
 public:
@@ -75,7 +83,14 @@ void PaletteBody::subscribe() {
     subscriptions_.add(state_.mode, again);
     subscriptions_.add(state_.customPalette(), again);
     subscriptions_.add(state_.isPictureWindowOpen, again);
-    subscriptions_.add(state_.editorBuffer, again);
+    subscriptions_.add(state_.editorBuffer, [this] {
+        // Every step of a slider comes here; only opening and closing moves anything.
+        const bool edits = state_.editorBuffer.value().has_value();
+        if (edits == editor_->isHidden())
+            layOut();
+        else if (targetChanged)
+            targetChanged();
+    });
     subscriptions_.add(ui_.models.preferences().pictureShare, again);
     subscriptions_.add(ui_.theme.version(), again);
     subscriptions_.add(state_.fileIsOver, [this] {
@@ -96,7 +111,7 @@ int PaletteBody::editorWidth() const {
 
 QRect PaletteBody::layOutPicture(QRect room) {
     const bool open = state_.isPictureWindowOpen.value();
-    picture_->setVisible(open);
+    setShown(*picture_, open, *main());
     divider_->setVisible(open);
     if (!open) return room;
     const auto share = ui_.models.preferences().pictureShare.value();
@@ -110,35 +125,47 @@ QRect PaletteBody::layOutPicture(QRect room) {
 
 void PaletteBody::layOut() {
     auto room = rect();
+    // Also while another window is in front.
+    const auto* focus = window()->focusWidget();
+    const bool wasInEditor = editor_->isAncestorOf(focus);
+    const bool wasInPicture = picture_->isAncestorOf(focus) || focus == picture_;
     const bool edits = state_.editorBuffer.value().has_value();
     const auto editorPlace =
         QRect(std::max(0, width() - editorWidth()), 0, std::min(editorWidth(), width()), height());
     const bool overlays = window()->width() < kOverlayBelow;
     if (edits && !overlays) room.setRight(editorPlace.left() - 1);
     layOutMain(layOutPicture(room));
-    editor_->setVisible(edits);
+    setShown(*editor_, edits, *main());
     editor_->setGeometry(editorPlace);
     editor_->raise();
     ring_->setGeometry(rect());
+    // What goes with the focus leaves it to the canvas, which shows it if it did before.
+    if ((wasInEditor && editor_->isHidden()) || (wasInPicture && picture_->isHidden()))
+        main()->setFocus(Qt::PopupFocusReason);
     update();
     if (targetChanged) targetChanged();
 }
 
 void PaletteBody::layOutMain(QRect room) {
     auto* shown = main();
-    const auto* focus = QApplication::focusWidget();
-    const bool goesOn = focus != shown && dynamic_cast<const Canvas*>(focus) &&
-                        (focus == swatches_ || focus == bands_ || focus == empty_);
+    // Also while another window is in front.
+    const auto* focus = window()->focusWidget();
+    const auto* canvas = dynamic_cast<const Canvas*>(focus);
+    const bool goesOn =
+        focus != shown && canvas && (focus == swatches_ || focus == bands_ || focus == empty_);
+    // A ring appears for those alone who use the keyboard.
+    const bool showsFocus = goesOn && canvas->showsFocus();
     swatches_->setRows(state_.isPictureWindowOpen.value());
+    QWidget* const places[] = {swatchScroll_, bandScroll_, empty_};
+    auto* const place = shown == empty_ ? places[2] : places[shown == bands_ ? 1 : 0];
     // Beside a picture an empty palette only says what will stand there.
-    swatchScroll_->setVisible(shown == swatches_ && !state_.swatches().empty());
-    bandScroll_->setVisible(shown == bands_);
-    empty_->setVisible(shown == empty_);
-    if (shown == empty_)
-        empty_->setGeometry(room);
-    else
-        (shown == bands_ ? bandScroll_ : swatchScroll_)->setGeometry(room);
-    if (goesOn) shown->setFocus(Qt::OtherFocusReason);
+    place->setVisible(shown != swatches_ || !state_.swatches().empty());
+    place->setGeometry(room);
+    // The keyboard goes on before what had it is hidden: it would pass to a tool on the way.
+    if (goesOn && shown == empty_) empty_->setFocused(empty_->find(EmptyState::action, 0));
+    if (goesOn) shown->setFocus(showsFocus ? Qt::OtherFocusReason : Qt::ActiveWindowFocusReason);
+    for (auto* const other : places)
+        if (other != place) other->hide();
 }
 
 void PaletteBody::resizeEvent(QResizeEvent*) {

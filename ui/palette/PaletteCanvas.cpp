@@ -1,5 +1,6 @@
 #include "ui/palette/PaletteCanvas.h"
 
+#include "colour/ColorNames.h"
 #include "platform/MainLoop.h"
 #include "platform/Services.h"
 #include "state/Models.h"
@@ -15,7 +16,7 @@ namespace tintra {
 namespace {
 
 constexpr int kMargin = 12;
-constexpr int kRow = 44; ///< least height of a row
+constexpr int kRow = 40; ///< least height of a row
 constexpr int kBar = 4;  ///< thickness of the bar beneath a selected swatch
 constexpr int kBarGap = 4;
 constexpr int kInsertion = 6;
@@ -48,13 +49,13 @@ void PaletteCanvas::subscribe() {
     subscriptions_.add(ui_.theme.version(), layOut);
     subscriptions_.add(state_.selectedSwatch, [this] { syncSelection(); });
     subscriptions_.add(state_.vision, [this] { update(); });
-    subscriptions_.add(state_.editorBuffer, repaint);
+    subscriptions_.add(state_.editorBuffer, [this] { showEdited(); });
     subscriptions_.add(state_.imageSource, layOut);
     subscriptions_.add(preferences.format, repaint);
     subscriptions_.add(preferences.formatOptions, repaint);
     subscriptions_.add(preferences.swatchBackdrop, repaint);
     subscriptions_.add(preferences.backdropColour, repaint);
-    subscriptions_.add(preferences.rgbProfile, repaint);
+    subscriptions_.add(preferences.profilesVersion, repaint);
     subscriptions_.add(preferences.showsWatermark, repaint);
     subscriptions_.add(state_.copyTick, [this] { flashCode(); });
     subscriptions_.add(state_.renamingSwatch, [this] {
@@ -70,13 +71,30 @@ void PaletteCanvas::subscribe() {
 
 PaletteCanvas::~PaletteCanvas() = default;
 
+void PaletteCanvas::showEdited() {
+    const auto show = [this](std::optional<std::size_t> at) {
+        const auto item = at ? find(swatch, *at) : -1;
+        if (item >= 0) setItem(item, itemOf(*at, items()[static_cast<std::size_t>(item)].rect));
+    };
+    const auto before = std::exchange(edited_, std::nullopt);
+    const auto& buffer = state_.editorBuffer.value();
+    const auto& all = state_.swatches();
+    const auto now = std::ranges::find_if(
+        all, [&](const auto& one) { return buffer && one.id == buffer->swatchID; });
+    if (now != all.end()) edited_ = static_cast<std::size_t>(now - all.begin());
+    if (before != edited_ && before < all.size()) show(before);
+    show(edited_);
+}
+
 void PaletteCanvas::setDisplay(PaletteDisplay display) {
+    if (display == display_) return;
     display_ = display;
     setWhole();
     relayout();
 }
 
 void PaletteCanvas::setRows(bool picturePane) {
+    if (picturePane == rows_) return;
     rows_ = picturePane;
     setWhole();
     relayout();
@@ -130,7 +148,9 @@ QString PaletteCanvas::code(std::size_t at, const std::string& name) const {
 }
 
 CanvasItem PaletteCanvas::itemOf(std::size_t at, const QRectF& rect) const {
-    const auto name = state_.swatchName(at);
+    // What is being edited is called after what it has become.
+    const auto& given = state_.swatches()[at].name;
+    const auto name = given ? *given : ColorNames::shared().name(colorAt(at));
     CanvasItem item;
     item.rect = rect;
     item.kind = swatch;
@@ -248,9 +268,18 @@ void PaletteCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemSta
     drawn.radii = radiiWithin(item.rect, isAlone ? item.rect : *group, metrics::kGroupRadius);
     drawn.buttons = buttons(item, state);
     if (!drawn.buttons.empty()) {
-        // In a row the buttons take the place of the code, on a side that of a long name.
+        // In a row the buttons take the place of the code, on a side that of a long name, on a tile
+        // that of the number.
         if (stand_.shape == SwatchShape::row) drawn.code.clear();
         if (stand_.shape == SwatchShape::onSide) drawn.hidesName = true;
+        if (stand_.shape == SwatchShape::tile) {
+            // There they begin at the top, and with large type reach down to the name.
+            drawn.index.clear();
+            const auto places =
+                ui_.painter.buttonRects(item.rect, stand_.shape, drawn.buttons.size());
+            if (places.back().bottom() > ui_.painter.nameRect(item.rect, drawn).top())
+                drawn.hidesName = true;
+        }
     }
     ui_.painter.paint(painter, item.rect, drawn);
     if (drawn.leftBehind) return;

@@ -72,6 +72,8 @@ protected:
 
 private:
     void subscribe();
+    /// The swatch that is edited, and the one that was.
+    void showEdited();
     SwatchPlaces places(QSizeF size) const;
     SwatchLook look(std::size_t at) const;
     QString code(std::size_t at, const std::string& name) const;
@@ -93,6 +95,7 @@ private:
     std::size_t insertionAt(QPointF place) const;
     QRectF insertionBar() const;
     void setInsertion(std::optional<std::size_t> at);
+    void scrollOn();
     void flashCode();
 
     Ui& ui_;
@@ -106,7 +109,10 @@ private:
     QPointF pressedAt_;
     std::optional<std::size_t> insertion_; ///< where a drop would go
     std::optional<Drag> offered_;          ///< what is dragged over the canvas
-    std::optional<std::size_t> flashing_;  ///< whose code was just copied
+    std::optional<std::size_t> edited_;    ///< whose colour the editor has
+    QPointF draggedAt_;
+    std::unique_ptr<DelayedTask> scrolling_; ///< while the drag rests near an edge
+    std::optional<std::size_t> flashing_;    ///< whose code was just copied
     std::unique_ptr<DelayedTask> flash_;
     QPointer<QLineEdit> field_;
     std::size_t renamed_ = 0;

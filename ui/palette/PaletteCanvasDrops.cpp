@@ -1,13 +1,14 @@
 // Colours dragged from a palette and dropped on it.
 
-#include "palettes/PaletteFile.h"
+#include "platform/MainLoop.h"
+#include "platform/Services.h"
 #include "state/Models.h"
 #include "ui/palette/FileDrops.h"
 #include "ui/palette/PaletteCanvas.h"
+#include "ui/shared/ColourDrag.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
-#include <QDrag>
 #include <QDropEvent>
 
 namespace tintra {
@@ -26,16 +27,13 @@ void PaletteCanvas::startDrag(std::size_t at) {
     const Drag dragged{held.color, held.name,
                        DragOfSwatch{{state_.currentPaletteName(), state_.id(), held.id, at}}};
     auto shape = look(at);
-    const bool fromStrip = items().size() > 12;
-    QDrag drag(this);
-    drag.setMimeData(mimeOf(dragged, shape.code).release());
-    drag.setPixmap(ui_.painter.card(shape, fromStrip ? QSize(96, 72) : QSize(128, 96), false,
-                                    devicePixelRatioF()));
-    drag.setHotSpot({30, 30});
+    shape.code = items()[at].value;
+    constexpr std::size_t kMany = 12;
     state_.draggingSwatch = at;
     update();
     const QPointer<PaletteCanvas> self(this);
-    drag.exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
+    dragColour(*this, ui_.painter, dragged, shape,
+               items().size() > kMany ? kSmallDragCard : kDragCard);
     // The window may have been closed in the middle of the drag.
     if (!self) return;
     state_.draggingSwatch = std::nullopt;
@@ -112,12 +110,31 @@ void PaletteCanvas::dragMoveEvent(QDragMoveEvent* event) {
         return;
     }
     setInsertion(insertionAt(event->position()));
-    if (reveal) reveal(QRect(event->position().toPoint(), QSize(1, 1)).adjusted(0, -24, 0, 24));
+    draggedAt_ = event->position();
+    if (!scrolling_) scrollOn();
+}
+
+/// Scrolls, and goes on as long as the drag stays near an edge of what is seen.
+void PaletteCanvas::scrollOn() {
+    constexpr int kEdge = 24, kStep = 8;
+    constexpr double kPace = 0.03; ///< seconds
+    scrolling_.reset();
+    const auto seen = visibleRegion().boundingRect();
+    const bool up = draggedAt_.y() < seen.top() + kEdge;
+    if (!reveal || (!up && draggedAt_.y() <= seen.bottom() - kEdge)) return;
+    const auto to = up ? seen.top() - kStep : seen.bottom() + kStep;
+    reveal(QRect(QPoint(static_cast<int>(draggedAt_.x()), to), QSize(1, 1)));
+    const auto moved = visibleRegion().boundingRect().top() - seen.top();
+    if (moved == 0) return;
+    draggedAt_ += QPointF(0, moved);
+    setInsertion(insertionAt(draggedAt_));
+    scrolling_ = ui_.services.mainLoop.after(kPace, [this] { scrollOn(); });
 }
 
 void PaletteCanvas::dragLeaveEvent(QDragLeaveEvent*) {
     setInsertion(std::nullopt);
     offered_.reset();
+    scrolling_.reset();
 }
 
 void PaletteCanvas::dropEvent(QDropEvent* event) {

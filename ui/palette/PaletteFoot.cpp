@@ -1,11 +1,13 @@
 #include "ui/palette/PaletteFoot.h"
 
+#include "colour/ColorNames.h"
 #include "palettes/FileNames.h"
 #include "palettes/PaletteExport.h"
 #include "platform/File.h"
 #include "state/Models.h"
 #include "ui/frame/ToolLine.h"
 #include "ui/palette/DragHandle.h"
+#include "ui/shared/ColourDrag.h"
 #include "ui/shared/ColourMime.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Figures.h"
@@ -38,6 +40,7 @@ QString countOfPalette(const AppState& state) {
 QString countOfBands(const AppState& state) {
     const auto& bands = state.bands();
     const auto colours = bands.empty() ? 0 : static_cast<qsizetype>(bands.front().size());
+    if (state.mode.value() == HarmonyMode::ramp) return worded("%n step", "%n steps", colours);
     if (bands.size() == 1) return worded("%n colour", "%n colours", colours);
     return worded("%n band of %1", "%n bands of %1", static_cast<qsizetype>(bands.size()))
         .arg(colours);
@@ -59,7 +62,7 @@ PaletteFoot::PaletteFoot(Ui& ui, AppState& state, ContextOf context, QWidget* pa
     chip_->drag = [this] { dragColour(); };
     count_->paint = [this](QPainter& painter, const QRect& in) {
         painter.setFont(ui_.theme.font(TextStyle::body));
-        painter.setPen(ui_.theme.color(Token::ink2));
+        painter.setPen(ui_.theme.color(Token::ink3));
         drawFigures(painter, in, Qt::AlignVCenter | Qt::AlignRight, countText());
     };
     count_->drag = [this] { dragPalette(); };
@@ -98,7 +101,7 @@ void PaletteFoot::subscribe() {
     subscriptions_.add(state_.isPictureWindowOpen, again);
     subscriptions_.add(preferences.format, again);
     subscriptions_.add(preferences.formatOptions, again);
-    subscriptions_.add(preferences.rgbProfile, again);
+    subscriptions_.add(preferences.profilesVersion, again);
     subscriptions_.add(ui_.theme.version(), again);
 }
 
@@ -111,6 +114,13 @@ void PaletteFoot::setCompact(bool compact) {
 void PaletteFoot::setMove(std::optional<std::pair<std::size_t, std::size_t>> move) {
     move_ = move;
     layOut();
+}
+
+QString PaletteFoot::hint() const {
+    if (target_ || state_.mode.value() != HarmonyMode::paletteBuilder) return {};
+    return state_.swatches().empty()
+               ? worded("Drop colours, palette files or a picture anywhere in this window")
+               : worded("No swatch selected");
 }
 
 QString PaletteFoot::countText() const {
@@ -126,14 +136,16 @@ void PaletteFoot::sync() {
     name_.clear();
     code_.clear();
     if (target_) {
-        const auto name = target_->swatch ? state_.swatchName(*target_->swatch)
-                                          : target_->name.value_or(std::string());
+        const auto nearest =
+            target_->swatch ? ColorNames::shared().name(target_->color) : std::string();
+        const auto name = target_->name.value_or(nearest);
         name_ = oneLine(name);
         code_ = fromUtf8(preferences.format.value().string(target_->color, name,
                                                            preferences.formatOptions.value()));
     }
     chip_->setAccessibleName(name_.isEmpty() ? code_ : name_);
     chip_->setToolTip(worded("Drag the colour"));
+    setAccessibleDescription(hint());
     layOut();
 }
 
@@ -192,12 +204,16 @@ int PaletteFoot::layOutFacts() {
     };
     add(choices_.format(), choices_.format().sizeHint().width(), kGroupGap);
     add(*choices_.vision(), choices_.vision()->sizeHint().width(), kGap);
-    add(*count_, countWidth, kGap);
+    if (state_.swatches().empty() && state_.mode.value() == HarmonyMode::paletteBuilder)
+        count_->hide();
+    else
+        add(*count_, countWidth, kGap);
     return left;
 }
 
 void PaletteFoot::layOutColour(int right) {
     namePlace_ = codePlace_ = {};
+    hintPlace_ = {kSide, 0, right - kSide, height()};
     if (!target_) return;
     const QFontMetrics words(ui_.theme.font(TextStyle::name)),
         mono(ui_.theme.font(TextStyle::code));
@@ -228,6 +244,11 @@ void PaletteFoot::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const auto& theme = ui_.theme;
     painter.fillRect(rect(), theme.color(Token::panel));
+    // Where surfaces do not differ, and under the bar of a picture.
+    const bool isBelowBar =
+        state_.isPictureWindowOpen.value() && state_.imageSource.value().picture;
+    if (theme.isHighContrast() || isBelowBar)
+        painter.fillRect(0, 0, width(), 1, theme.color(Token::line));
     if (compact_) return;
     const auto write = [&](const QRect& in, TextStyle style, Token ink, const QString& text) {
         const auto font = theme.font(style);
@@ -236,6 +257,10 @@ void PaletteFoot::paintEvent(QPaintEvent*) {
         painter.drawText(in, Qt::AlignVCenter | Qt::AlignLeft,
                          QFontMetrics(font).elidedText(text, Qt::ElideRight, in.width()));
     };
+    const auto words = QFontMetrics(theme.font(TextStyle::body)).horizontalAdvance(hint());
+    // What to do with an empty palette is said as far as there is room, the other whole or not.
+    if (state_.swatches().empty() || words <= hintPlace_.width())
+        write(hintPlace_, TextStyle::body, Token::ink3, hint());
     write(namePlace_, TextStyle::name, Token::ink, name_);
     write(codePlace_, TextStyle::code, Token::ink2, code_);
     if (!choices_.format().isHidden() && !choices_.vision()->isHidden())
@@ -254,11 +279,7 @@ void PaletteFoot::dragColour() {
     look.vision = state_.vision;
     look.name = name_;
     look.code = code_;
-    auto* drag = new QDrag(chip_);
-    drag->setMimeData(mimeOf(dragged, code_).release());
-    drag->setPixmap(ui_.painter.card(look, {128, 96}, false, devicePixelRatioF()));
-    drag->setHotSpot({30, 30});
-    drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
+    tintra::dragColour(*chip_, ui_.painter, dragged, look, kDragCard);
 }
 
 void PaletteFoot::dragPalette() {

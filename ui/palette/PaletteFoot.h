@@ -45,6 +45,8 @@ private:
     void subscribe();
     void connectTools();
     QString countText() const;
+    /// What stands in the place of a colour; nothing while there is one.
+    QString hint() const;
     void layOut();
     /// Places what is shown at the right end and answers where that begins.
     int layOutFacts();
@@ -60,7 +62,7 @@ private:
     std::optional<std::pair<std::size_t, std::size_t>> move_;
     std::optional<ActionTarget> target_;
     QString name_, code_;
-    QRect namePlace_, codePlace_;
+    QRect namePlace_, codePlace_, hintPlace_;
     DragHandle *chip_, *count_;
     ToolButton *copy_, *add_, *more_;
     FootChoices choices_;

@@ -31,9 +31,9 @@ PaletteToolBar::PaletteToolBar(Ui& ui, AppState& state, ContextOf context, QWidg
     contrast_ = &addTool(ActionId::openContrast, "contrast");
     auto& library = addTool(ActionId::openLibrary, "library");
     auto& saveAs = addTool(ActionId::saveAs, "export", true);
-    auto& editor = addTool(ActionId::colourEditor, "editor");
+    editor_ = &addTool(ActionId::colourEditor, "editor");
     // The display is chosen by key and menu too; the editor's button stays longest.
-    leaving_ = {&library, contrast_, bench_, &picture, &paste, &saveAs, display_, &editor};
+    leaving_ = {&library, contrast_, bench_, &picture, &paste, &saveAs, display_, editor_};
     subscribe();
     syncAll();
 }
@@ -42,7 +42,10 @@ void PaletteToolBar::subscribe() {
     const auto again = [this] { syncAll(); };
     subscriptions_.add(state_.mode, again);
     subscriptions_.add(state_.customPaletteVersion(), again);
-    subscriptions_.add(state_.editorBuffer, again);
+    subscriptions_.add(state_.editorBuffer, [this] {
+        // Every step of a slider comes here.
+        if (editor_->isChecked() != state_.editorBuffer.value().has_value()) syncAll();
+    });
     subscriptions_.add(state_.isPictureWindowOpen, again);
     subscriptions_.add(state_.attachment(), again);
     subscriptions_.add(ui_.models.preferences().paletteViews, again);

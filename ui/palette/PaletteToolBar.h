@@ -21,7 +21,7 @@ private:
     AppState& state_;
     PopUpButton* mode_;
     Segmented* display_;
-    ToolButton *bench_, *contrast_;
+    ToolButton *bench_, *contrast_, *editor_;
     std::vector<QWidget*> leaving_; ///< tools, first to last
     Subscriptions subscriptions_;
 };

@@ -8,17 +8,19 @@
 #include "ui/palette/EmptyState.h"
 #include "ui/palette/FileDrops.h"
 #include "ui/palette/PaletteWindowParts.h"
+#include "ui/palette/StripCells.h"
 #include "ui/program/Windows.h"
 #include "ui/shared/ColourMime.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QGuiApplication>
+#include <QDrag>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
-#include <QMenuBar>
 #include <QVBoxLayout>
 
 namespace tintra {
@@ -39,8 +41,8 @@ PaletteWindow::PaletteWindow(Ui& ui, AppState& state)
     syncPanels();
     restoreFrame();
     syncOnTop();
-    syncCollapsed();
     parts_->body->main()->setFocus();
+    syncCollapsed();
 }
 
 PaletteWindow::~PaletteWindow() = default;
@@ -124,20 +126,26 @@ void PaletteWindow::syncPanels() {
     parts.toolBar->setVisible(!narrow);
     parts.foot->setCompact(narrow);
     parts.seedRow->setVisible(state_.mode.value() != HarmonyMode::paletteBuilder);
+    const bool barHasFocus = parts.pictureBar->isAncestorOf(QApplication::focusWidget());
     parts.pictureBar->setVisible(state_.isPictureWindowOpen && state_.imageSource.value().picture);
+    if (barHasFocus && parts.pictureBar->isHidden())
+        parts.body->main()->setFocus(Qt::PopupFocusReason);
     parts.body->setDisplay(display());
 }
 
 void PaletteWindow::syncOnTop() {
     const bool wanted = ui().models.preferences().alwaysOnTop;
     if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == wanted) return;
-    const bool shows = isVisible();
-    setWindowFlag(Qt::WindowStaysOnTopHint, wanted);
-    if (shows) show();
+    setFlagInPlace(Qt::WindowStaysOnTopHint, wanted);
 }
 
 std::optional<ActionTarget> PaletteWindow::target() const {
-    if (state_.mode.value() != HarmonyMode::paletteBuilder) return parts_->body->bands().target();
+    if (state_.mode.value() != HarmonyMode::paletteBuilder) {
+        if (!parts_->isFolded) return parts_->body->bands().target();
+        const auto colour = parts_->strip->cells().current();
+        return colour ? std::optional(ActionTarget{*colour, std::nullopt, std::nullopt})
+                      : std::nullopt;
+    }
     const auto at = state_.selectedSwatch.value();
     if (!at || *at >= state_.swatches().size()) return std::nullopt;
     return ActionTarget{parts_->body->swatches().colorAt(*at), state_.swatches()[*at].name, *at};
@@ -164,7 +172,7 @@ void PaletteWindow::clear() {
 void PaletteWindow::pasteColours() {
     const auto held = ui().services.clipboard.content();
     if (!held.text.empty()) {
-        state_.receiveText(held.text);
+        receiveText(ui(), state_, held.text);
         return;
     }
     if (held.colour) {
@@ -208,6 +216,12 @@ void PaletteWindow::setPeeking(bool peeks) {
     parts_->body->swatches().setPeeking(peeks);
 }
 
+void PaletteWindow::openMenuBar() {
+    // A strip has no room for a bar.
+    if (parts_->isFolded) return showContextMenu();
+    MainWindow::openMenuBar();
+}
+
 std::vector<QWidget*> PaletteWindow::regions() const {
     const auto& parts = *parts_;
     return {parts.strip,        parts.toolBar,        parts.seedRow,    parts.body->picture(),
@@ -216,12 +230,22 @@ std::vector<QWidget*> PaletteWindow::regions() const {
 
 void PaletteWindow::closeNow() {
     parts_->isClosing = true;
+    // What is dragged belongs to the canvas, which goes.
+    QDrag::cancel();
     close();
 }
 
 void PaletteWindow::closeEvent(QCloseEvent* event) {
     event->setAccepted(parts_->isClosing);
-    if (!parts_->isClosing) ui().windows.closePalette(state_.id());
+    if (parts_->isClosing) return;
+    finishTyping();
+    ui().windows.closePalette(state_.id());
+}
+
+void PaletteWindow::finishTyping() {
+    // A field takes what was typed when it loses the keyboard.
+    if (qobject_cast<QLineEdit*>(focusWidget()))
+        parts_->body->main()->setFocus(Qt::OtherFocusReason);
 }
 
 void PaletteWindow::changeEvent(QEvent* event) {

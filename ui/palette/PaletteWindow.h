@@ -35,6 +35,9 @@ public:
     void showExport();
     void beginRename();
     void setPeeking(bool peeks);
+    void openMenuBar() override;
+    /// What is being typed counts as typed: before the window is asked about changes.
+    void finishTyping();
     /// Closes without asking; the model is gone after this.
     void closeNow();
 
@@ -60,6 +63,7 @@ private:
     void syncPanels();
     void syncCollapsed();
     void syncOnTop();
+    void setFlagInPlace(Qt::WindowType flag, bool on);
     // Sizes and places (PaletteWindowFrame.cpp)
     void restoreFrame();
     void takeModeSize();

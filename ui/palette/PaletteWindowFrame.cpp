@@ -2,13 +2,17 @@
 // on it as a whole.
 
 #include "state/Models.h"
+#include "ui/actions/Menus.h"
 #include "ui/frame/WindowFrame.h"
 #include "ui/palette/FileDrops.h"
 #include "ui/palette/PaletteWindowParts.h"
+#include "ui/palette/StripCells.h"
 #include "ui/shared/ColourMime.h"
 
 #include <QDropEvent>
+#include <QMenu>
 #include <QScreen>
+#include <QWindow>
 #include <algorithm>
 
 namespace tintra {
@@ -75,20 +79,36 @@ void PaletteWindow::syncCollapsed() {
     const bool folds = state_.isCollapsed;
     if (folds == parts.isFolded) return;
     parts.isPlacing = true;
-    if (folds && !parts.strip) parts.strip = new CollapsedStrip(ui(), state_, this);
-    const bool shows = isVisible();
+    if (folds && !parts.strip) {
+        parts.strip = new CollapsedStrip(ui(), state_, this);
+        parts.strip->cells().contextMenu = [this](QPoint at) {
+            popUp(at, [this](QMenu& menu) { fillStripMenu(menu, context()); });
+        };
+    }
     parts.isFolded = folds;
     parts.unfolded->setVisible(!folds);
     parts.strip->setVisible(folds);
-    setWindowFlag(Qt::FramelessWindowHint, folds);
+    setFlagInPlace(Qt::FramelessWindowHint, folds);
     if (folds) {
         resizeStrip();
     } else {
         setMinimumSize(240, 180);
         restoreFrame();
     }
-    if (shows) show();
+    auto* const canvas = folds ? static_cast<Canvas*>(&parts.strip->cells()) : parts.body->main();
+    canvas->setFocus(Qt::OtherFocusReason);
     parts.isPlacing = false;
+}
+
+// QWidget would hide the window and show it again, which loses the focus and, with some window
+// managers, the knowledge of where it is.
+void PaletteWindow::setFlagInPlace(Qt::WindowType flag, bool on) {
+    if (!windowHandle()) {
+        setWindowFlag(flag, on);
+        return;
+    }
+    overrideWindowFlags(windowFlags().setFlag(flag, on));
+    windowHandle()->setFlag(flag, on);
 }
 
 void PaletteWindow::resizeStrip() {
@@ -120,7 +140,12 @@ void PaletteWindow::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void PaletteWindow::dragMoveEvent(QDragMoveEvent* event) {
-    event->acceptProposedAction();
+    const bool refused = refusesColour(state_, *event);
+    state_.fileIsOver = !refused;
+    if (!refused) return event->acceptProposedAction();
+    // The cursor says no, but the drop is let come, to be told why.
+    event->setDropAction(Qt::IgnoreAction);
+    event->accept();
 }
 
 void PaletteWindow::dragLeaveEvent(QDragLeaveEvent*) {

@@ -26,6 +26,7 @@ protected:
     void hoverMoved(int item, QPointF place) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void activate(int item) override { choose(item); }
 
 private:
     void choose(int item);

@@ -3,6 +3,7 @@
 #include "colour/ColorNames.h"
 #include "state/Models.h"
 #include "ui/palette/SeedEditor.h"
+#include "ui/shared/ColourDrag.h"
 #include "ui/shared/ColourMime.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/SwatchPainter.h"
@@ -11,7 +12,6 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QDrag>
 #include <QDropEvent>
 #include <QFontMetrics>
 #include <QMenu>
@@ -147,11 +147,7 @@ void SeedChip::startDrag() {
     look.color = seed();
     look.vision = state_.vision;
     look.code = code_;
-    QDrag drag(this);
-    drag.setMimeData(mimeOf({seed(), std::nullopt, DragOfSeed{}}, code_).release());
-    drag.setPixmap(ui_.painter.card(look, QSize(96, 72), false, devicePixelRatioF()));
-    drag.setHotSpot({30, 30});
-    drag.exec(Qt::CopyAction, Qt::CopyAction);
+    dragColour(*this, ui_.painter, {seed(), std::nullopt, DragOfSeed{}}, look, kSmallDragCard);
 }
 
 void SeedChip::setDropTarget(bool isOne) {

@@ -95,7 +95,7 @@ void SeedRow::subscribe() {
     subscriptions_.add(preferences.formatOptions, again);
     subscriptions_.add(preferences.swatchBackdrop, again);
     subscriptions_.add(preferences.backdropColour, again);
-    subscriptions_.add(preferences.rgbProfile, again);
+    subscriptions_.add(preferences.profilesVersion, again);
     subscriptions_.add(ui_.theme.version(), again);
 }
 
@@ -251,6 +251,8 @@ bool SeedRow::eventFilter(QObject* watched, QEvent* event) {
 void SeedRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), ui_.theme.color(Token::panel));
+    if (ui_.theme.isHighContrast())
+        painter.fillRect(0, height() - 1, width(), 1, ui_.theme.color(Token::line));
     painter.setFont(ui_.theme.font(TextStyle::body));
     painter.setPen(ui_.theme.color(Token::ink2));
     for (const auto& label : labels_)

@@ -4,13 +4,13 @@
 #include "platform/Services.h"
 #include "state/Models.h"
 #include "ui/palette/SwatchLayout.h"
-#include "ui/shared/ColourMime.h"
+#include "ui/shared/ColourDrag.h"
 #include "ui/shared/SwatchPainter.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
 #include <QApplication>
-#include <QDrag>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -45,7 +45,7 @@ StripCells::StripCells(Ui& ui, AppState& state, QWidget* parent)
     subscriptions_.add(preferences.formatOptions, relaid);
     subscriptions_.add(preferences.swatchBackdrop, relaid);
     subscriptions_.add(preferences.backdropColour, relaid);
-    subscriptions_.add(preferences.rgbProfile, relaid);
+    subscriptions_.add(preferences.profilesVersion, relaid);
     subscriptions_.add(state.selectedSwatch, [this] { syncSelection(); });
     again();
     syncSelection();
@@ -151,6 +151,7 @@ std::vector<CanvasItem> StripCells::layoutItems(QSizeF size) const {
 void StripCells::paintGround(QPainter& painter, const QRect& dirty) {
     painter.fillRect(dirty, theme().color(Token::panel));
     if (!items().empty()) return;
+    painter.setRenderHint(QPainter::Antialiasing);
     const auto place = QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75);
     painter.setPen(QPen(theme().color(Token::edge), 1.5, Qt::DashLine));
     painter.drawRoundedRect(place, metrics::kControlRadius, metrics::kControlRadius);
@@ -266,6 +267,23 @@ void StripCells::mouseReleaseEvent(QMouseEvent* event) {
         copy(static_cast<std::size_t>(pressed));
 }
 
+std::optional<WashColor> StripCells::current() const {
+    const auto all = colours();
+    const auto at = static_cast<std::size_t>(focused());
+    return focused() < 0 || at >= all.size() ? std::nullopt : std::optional(all[at]);
+}
+
+void StripCells::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const auto item = byKey ? focused() : itemAt(event->pos());
+    if (item >= 0) setFocused(item);
+    if (!contextMenu) return;
+    const bool atItem = byKey && item >= 0;
+    contextMenu(atItem
+                    ? mapToGlobal(items()[static_cast<std::size_t>(item)].rect.center().toPoint())
+                    : event->globalPos());
+}
+
 void StripCells::startDrag(std::size_t at) {
     const auto all = colours();
     if (at >= all.size()) return;
@@ -279,11 +297,7 @@ void StripCells::startDrag(std::size_t at) {
     look.vision = state_.vision;
     look.name = item.name;
     look.code = item.value;
-    QDrag drag(this);
-    drag.setMimeData(mimeOf(dragged, item.value).release());
-    drag.setPixmap(ui_.painter.card(look, QSize(96, 72), false, devicePixelRatioF()));
-    drag.setHotSpot({30, 30});
-    drag.exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
+    dragColour(*this, ui_.painter, dragged, look, kSmallDragCard);
 }
 
 void StripCells::wheelEvent(QWheelEvent* event) {

@@ -27,6 +27,10 @@ public:
     void turn(int by);
     /// Is told when there are other pages or another one is shown.
     std::function<void()> paged;
+    /// Is asked for a menu at a place of the screen, of the colour that has the focus.
+    std::function<void(QPoint)> contextMenu;
+    /// The colour that has the focus; none without one.
+    std::optional<WashColor> current() const;
 
 protected:
     std::vector<CanvasItem> layoutItems(QSizeF size) const override;
@@ -41,6 +45,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 

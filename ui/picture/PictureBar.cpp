@@ -177,6 +177,7 @@ void PictureBar::paintEvent(QPaintEvent*) {
     const auto& theme = ui_.theme;
     QPainter painter(this);
     painter.fillRect(rect(), theme.color(Token::panel));
+    if (theme.isHighContrast()) painter.fillRect(0, 0, width(), 1, theme.color(Token::line));
     painter.setPen(theme.color(Token::ink2));
     painter.setFont(theme.font(TextStyle::body));
     if (!captionRoom_.isEmpty())

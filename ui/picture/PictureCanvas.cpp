@@ -148,6 +148,7 @@ std::vector<CanvasItem> PictureCanvas::layoutItems(QSizeF) const {
 
 void PictureCanvas::paintGround(QPainter& painter, const QRect& dirty) {
     Canvas::paintGround(painter, dirty);
+    painter.setRenderHint(QPainter::Antialiasing);
     const auto in = pictureRect();
     if (in.isEmpty()) return;
     if (copy_.scaled().isNull()) {

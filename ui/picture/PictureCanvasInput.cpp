@@ -52,7 +52,6 @@ void PictureCanvas::letGo() {
 
 void PictureCanvas::mousePressEvent(QMouseEvent* event) {
     const auto item = itemAt(event->position());
-    useKeyboard(false);
     if (event->button() != Qt::LeftButton || !hasPicture()) {
         if (item >= 0) setFocused(item);
         return;

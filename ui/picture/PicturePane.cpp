@@ -31,6 +31,13 @@ bool mayHoldPicture(const QMimeData& data) {
            !data.hasFormat(QString::fromLatin1(kColourMimeType));
 }
 
+/// Colours and text are none of a picture's. The pane has them end here: the window behind it
+/// would take them.
+void refuse(QDragMoveEvent& event) {
+    event.setDropAction(Qt::IgnoreAction);
+    event.accept();
+}
+
 } // namespace
 
 /// Shows that a drop would be taken, over everything.
@@ -123,13 +130,19 @@ void PicturePane::setTarget(bool isTarget) {
 }
 
 void PicturePane::dragEnterEvent(QDragEnterEvent* event) {
-    if (!mayHoldPicture(*event->mimeData())) return;
-    event->acceptProposedAction();
-    setTarget(true);
+    const bool takes = mayHoldPicture(*event->mimeData());
+    if (takes)
+        event->acceptProposedAction();
+    else
+        refuse(*event);
+    setTarget(takes);
 }
 
 void PicturePane::dragMoveEvent(QDragMoveEvent* event) {
-    event->acceptProposedAction();
+    if (mayHoldPicture(*event->mimeData()))
+        event->acceptProposedAction();
+    else
+        refuse(*event);
 }
 
 void PicturePane::dragLeaveEvent(QDragLeaveEvent*) {

@@ -1,5 +1,6 @@
 #include "ui/program/Application.h"
 
+#include "colour/ColorNames.h"
 #include "state/Preferences.h"
 #include "state/Workspaces.h"
 #include "ui/bench/BenchWindow.h"
@@ -11,14 +12,24 @@
 #include "ui/palette/PaletteWindow.h"
 #include "ui/settings/SettingsWindow.h"
 #include "ui/shared/Canvas.h"
+#include "ui/shared/PanelAccessibility.h"
 #include "ui/shared/TintraStyle.h"
 
 #include <QApplication>
-#include <QSessionManager>
+#include <algorithm>
+#include <type_traits>
 #include <utility>
 
 namespace tintra {
 namespace {
+
+/// In front of other windows, with the keyboard.
+void bringUp(QWidget& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
 
 /// Decides first whether colours are light or dark where the style asks for a palette.
 Rgb rgbOf(const QColor& color) {
@@ -32,16 +43,22 @@ Rgb meanOf(const QColor& one, const QColor& other) {
 
 } // namespace
 
-Application::Application()
-    : toasts_(notices_, notifications_), services_(toasts_, dialogues_),
+Application::Application(Surroundings surroundings)
+    : desktopSettings_(std::move(surroundings.settings)), toasts_(notices_, notifications_),
+      services_(std::move(surroundings), toasts_, dialogues_),
       models_(services_.services(),
               PaletteSurroundings::ofThisSystem(
                   services_.services().mainLoop, services_.services().background,
                   services_.services().folderWatch, services_.services().trash)),
-      theme_(models_.preferences(), desktopSettings_),
+      theme_(models_.preferences(), *desktopSettings_),
       painter_(theme_, models_.preferences()), ui_{models_, services_.services(),
                                                    theme_,  painter_,
-                                                   *this,   notices_} {
+                                                   *this,   notices_},
+      requests_(ui_),
+      sessionEnd_({.keep = [this] { models_.keep(); }, .leave = [this] { leave(); }}) {
+    // The first colours that are shown need their names: they are read beside all that follows.
+    services_.services().background.run([] { ColorNames::shared().loadIfNeeded(); });
+    installPanelAccessibility();
     installCanvasAccessibility();
     dialogues_.setTheme(theme_);
     dialogues_.windowOf = [this](const ToastPlace& place) { return window(place); };
@@ -77,7 +94,7 @@ void Application::connectNotices() {
 
 void Application::connectModels() {
     auto& requests = models_.preferences().windows;
-    requests.openMainWindow = [this] { activate(); };
+    requests.openMainWindow = [this] { requests_.activate(); };
     requests.openBenchWindow = [this] { openBench(); };
     requests.openContrastWindow = [this] { openContrast(); };
     requests.openLibraryWindow = [this] { openLibrary(); };
@@ -93,9 +110,7 @@ void Application::connectModels() {
             .ground = rgbOf(theme_.color(Token::ground)),
             .checks = meanOf(theme_.color(Token::checkLight), theme_.color(Token::checkDark))};
     });
-    // A session that ends does not wait for questions: everything is kept and comes back.
-    QObject::connect(qApp, &QGuiApplication::commitDataRequest, qApp,
-                     [this](QSessionManager&) { models_.keep(); });
+    QObject::connect(qApp, &QGuiApplication::lastWindowClosed, qApp, [this] { quit(); });
 }
 
 void Application::applyTheme() {
@@ -116,25 +131,7 @@ void Application::start(const std::vector<std::filesystem::path>& files) {
     if (opening.contrast) showBeside(contrast_);
     if (palettes_.empty() && opening == Models::Opening{})
         openPalette(models_.workspaces().openPrimary().id());
-    open(files);
-}
-
-void Application::open(const std::vector<std::filesystem::path>& files) {
-    for (const auto& file : files)
-        openPaletteFile(file);
-}
-
-void Application::openPaletteFile(const std::filesystem::path& file) {
-    auto* front = models_.workspaces().front();
-    const bool takesIt = front && front->swatches().empty() && !front->attachment().value();
-    auto& state = takesIt ? *front : models_.workspaces().openExtra();
-    state.open(file);
-}
-
-void Application::activate() {
-    auto* front = models_.workspaces().front();
-    if (!front) front = &models_.workspaces().openPrimary();
-    openPalette(front->id());
+    if (!files.empty()) requests_.open(files);
 }
 
 PaletteWindow* Application::palette(const Uuid& id) const {
@@ -174,12 +171,20 @@ MainWindow* Application::mainWindow(const ToastPlace& place) const {
 void Application::openPalette(const Uuid& id) {
     auto& window = palettes_[id];
     if (!window) window = std::make_unique<PaletteWindow>(ui_, *models_.workspaces().state(id));
-    window->show();
-    window->raise();
-    window->activateWindow();
+    bringUp(*window);
+}
+
+bool Application::isOnlyWindow(const QWidget* window) const {
+    const auto others = QApplication::topLevelWidgets();
+    return std::ranges::none_of(others, [window](const QWidget* other) {
+        return other != window && other->isVisible() && other->windowType() == Qt::Window &&
+               !other->parentWidget() && other->testAttribute(Qt::WA_QuitOnClose);
+    });
 }
 
 void Application::closePalette(const Uuid& id) {
+    // The last window is the program: it comes back at the next start.
+    if (isOnlyWindow(palette(id))) return quit();
     models_.workspaces().close(id, [this, id](bool closed) {
         if (!closed) return;
         // The window may be in the middle of the event that closes it.
@@ -195,16 +200,15 @@ Window& Application::only(QPointer<Window>& window) {
     if (!window) {
         window = new Window(ui_);
         window->setAttribute(Qt::WA_DeleteOnClose);
+        // Settings and help do not keep the program running.
+        window->setAttribute(Qt::WA_QuitOnClose, std::is_base_of_v<MainWindow, Window>);
     }
     return *window;
 }
 
 template <class Window>
 void Application::showOnly(QPointer<Window>& window) {
-    auto& shown = only(window);
-    shown.show();
-    shown.raise();
-    shown.activateWindow();
+    bringUp(only(window));
 }
 
 template <class Window>
@@ -246,9 +250,19 @@ void Application::openAcknowledgements() {
 }
 
 void Application::quit() {
+    for (auto* window : palettes())
+        window->finishTyping();
     models_.quit([](bool quits) {
-        if (quits) QApplication::quit();
+        // Not QApplication::quit, which would close every window again, each with its question.
+        if (quits) QApplication::exit();
     });
+}
+
+void Application::leave() {
+    for (auto* window : palettes())
+        window->finishTyping();
+    models_.keep();
+    QApplication::exit();
 }
 
 } // namespace tintra

@@ -3,10 +3,11 @@
 #include "platform/desktop/services/DesktopNotifications.h"
 #include "state/Models.h"
 #include "ui/Ui.h"
+#include "ui/program/DesktopRequests.h"
 #include "ui/program/DesktopServices.h"
+#include "ui/program/SessionEnd.h"
 #include "ui/program/Windows.h"
 #include "ui/shared/NoticeBar.h"
-#include "ui/shared/PortalSettings.h"
 #include "ui/shared/SwatchPainter.h"
 #include "ui/shared/Theme.h"
 #include "ui/shared/WindowDialogues.h"
@@ -32,15 +33,12 @@ class ShortcutsWindow;
 /// together. One a process. Main loop.
 class Application final : public Windows {
 public:
-    Application();
+    explicit Application(Surroundings surroundings = Surroundings::ofThisDesktop());
     ~Application() override;
 
     /// Brings back what was there, opens the files and shows the windows.
     void start(const std::vector<std::filesystem::path>& files);
-    /// Opens palettes, each in the front window when that is empty, else in a new one.
-    void open(const std::vector<std::filesystem::path>& files);
-    /// Brings the front window up.
-    void activate();
+    DesktopRequests& requests() { return requests_; }
     Ui& ui() { return ui_; }
 
     PaletteWindow* palette(const Uuid& id) const override;
@@ -60,10 +58,12 @@ public:
 private:
     void applyTheme();
     void connectModels();
-    void openPaletteFile(const std::filesystem::path& file);
     void connectNotices();
     /// The main window of a place; none while it is closed.
     MainWindow* mainWindow(const ToastPlace& place) const;
+    bool isOnlyWindow(const QWidget* window) const;
+    /// Ends the program without a question: everything is kept and comes back.
+    void leave();
     /// The one window of its kind, made when it is not open.
     template <class Window>
     Window& only(QPointer<Window>& window);
@@ -74,13 +74,13 @@ private:
     template <class Window>
     void showBeside(QPointer<Window>& window);
 
+    std::unique_ptr<DesktopSettings> desktopSettings_;
     NoticeHistory notices_;
     DesktopNotifications notifications_;
     WindowToasts toasts_;
     WindowDialogues dialogues_;
     DesktopServices services_;
     Models models_;
-    PortalSettings desktopSettings_;
     Theme theme_;
     SwatchPainter painter_;
     Ui ui_;
@@ -92,6 +92,8 @@ private:
     QPointer<ShortcutsWindow> shortcuts_;
     QPointer<AboutWindow> about_;
     QPropertyNotifier themeChanged_;
+    DesktopRequests requests_;
+    SessionEnd sessionEnd_;
 };
 
 } // namespace tintra

@@ -1,9 +1,12 @@
 #include "ui/program/DesktopServices.h"
 
 #include "platform/Locations.h"
+#include "platform/ThreadPool.h"
+#include "ui/shared/PortalSettings.h"
 
 #include <algorithm>
 #include <thread>
+#include <utility>
 
 namespace tintra {
 namespace {
@@ -15,12 +18,16 @@ unsigned threads() {
 
 } // namespace
 
-DesktopServices::DesktopServices(Toasts& toasts, Dialogues& dialogues)
-    : defaults_({.settings = configFolder(), .state = stateFolder()}, mainLoop_, clock_),
-      trash_(clock_),
-      background_(threads()), services_{clock_,       chance_,    mainLoop_, background_,
-                                        defaults_,    clipboard_, trash_,    fileBrowser_,
-                                        folderWatch_, scripting_, toasts,    dialogues,
-                                        log_} {}
+Surroundings Surroundings::ofThisDesktop() {
+    return {std::make_unique<SystemChance>(), std::make_unique<ThreadPool>(threads()),
+            std::make_unique<PortalSettings>()};
+}
+
+DesktopServices::DesktopServices(Surroundings surroundings, Toasts& toasts, Dialogues& dialogues)
+    : chance_(std::move(surroundings.chance)),
+      defaults_({.settings = configFolder(), .state = stateFolder()}, mainLoop_, clock_),
+      trash_(clock_), background_(std::move(surroundings.background)),
+      services_{clock_,       *chance_,     mainLoop_,  *background_, defaults_, clipboard_, trash_,
+                fileBrowser_, folderWatch_, scripting_, toasts,       dialogues, log_} {}
 
 } // namespace tintra

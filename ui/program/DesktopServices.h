@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Background.h"
 #include "platform/Chance.h"
 #include "platform/Clock.h"
 #include "platform/DesktopTrash.h"
@@ -7,26 +8,38 @@
 #include "platform/Log.h"
 #include "platform/Scripting.h"
 #include "platform/Services.h"
-#include "platform/ThreadPool.h"
 #include "platform/desktop/services/DBusFileBrowser.h"
 #include "platform/desktop/services/QtClipboard.h"
 #include "platform/desktop/services/QtFolderWatch.h"
 #include "platform/desktop/services/QtMainLoop.h"
+#include "ui/shared/DesktopSettings.h"
+
+#include <memory>
 
 namespace tintra {
+
+/// What decides how a run of the program goes beside its user: of this desktop, or fixed where
+/// every run is to be the same.
+struct Surroundings {
+    std::unique_ptr<Chance> chance;
+    std::unique_ptr<Background> background;
+    std::unique_ptr<DesktopSettings> settings;
+
+    static Surroundings ofThisDesktop();
+};
 
 /// The services of a real desktop, in an order in which each can rely on those before it. What
 /// shows windows (notices and dialogues) is handed in.
 class DesktopServices {
 public:
-    DesktopServices(Toasts& toasts, Dialogues& dialogues);
+    DesktopServices(Surroundings surroundings, Toasts& toasts, Dialogues& dialogues);
 
     Services& services() { return services_; }
     MainLoop& mainLoop() { return mainLoop_; }
 
 private:
     SystemClock clock_;
-    SystemChance chance_;
+    std::unique_ptr<Chance> chance_;
     StandardErrorLog log_;
     QtMainLoop mainLoop_;
     FileDefaults defaults_;
@@ -35,7 +48,7 @@ private:
     DBusFileBrowser fileBrowser_;
     QtFolderWatch folderWatch_;
     NoScripting scripting_;
-    ThreadPool background_;
+    std::unique_ptr<Background> background_;
     Services services_;
 };
 

@@ -106,11 +106,7 @@ void CodeTab::addSamples() {
     auto& preferences = ui_.models.preferences();
     bindings_.follow(preferences.format, [this] { showSamples(); });
     bindings_.follow(preferences.formatOptions, [this] { showSamples(); });
-    bindings_.follow(preferences.rgbProfile, [this] {
-        // The profiles follow the same setting, perhaps after this.
-        QMetaObject::invokeMethod(
-            this, [this] { showSamples(); }, Qt::QueuedConnection);
-    });
+    bindings_.follow(preferences.profilesVersion, [this] { showSamples(); });
 }
 
 void CodeTab::showSamples() {

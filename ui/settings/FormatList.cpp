@@ -79,7 +79,9 @@ void FormatList::addFamily(std::vector<CanvasItem>& items, std::size_t family, q
         const auto place = theme().scaled(kStarPlace);
         CanvasItem mark{
             .rect = QRectF(width - 1 - place, y, place, rowHeight), .kind = star, .index = index};
+        mark.role = QAccessible::CheckBox;
         mark.name = worded("Favourite");
+        mark.description = item.name;
         mark.selected = item.selected;
         mark.checked = starred;
         items.push_back(mark);
@@ -99,12 +101,13 @@ void FormatList::paintItem(QPainter& painter, const CanvasItem& item, ItemState 
         painter.setBrush(theme().color(item.selected ? Token::sel : Token::hover));
         painter.drawRoundedRect(item.rect, metrics::kChipRadius, metrics::kChipRadius);
     }
-    auto font = theme().font(isHeading ? TextStyle::caption : TextStyle::body);
+    const auto ink = theme().color(item.selected ? Token::onsel
+                                   : isHeading   ? Token::ink3
+                                                 : Token::ink);
+    auto font = theme().font(isHeading ? TextStyle::caption : TextStyle::body, ink);
     if (isHeading) font.setWeight(QFont::DemiBold);
     painter.setFont(font);
-    painter.setPen(theme().color(item.selected ? Token::onsel
-                                 : isHeading   ? Token::ink3
-                                               : Token::ink));
+    painter.setPen(ink);
     const auto end = isHeading ? kSide : theme().scaled(kStarPlace);
     const auto words = item.rect.adjusted(kSide, isHeading ? 8 : 0, -end, 0);
     painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter,
@@ -157,13 +160,16 @@ void FormatList::focusMoved(int item) {
 void FormatList::mousePressEvent(QMouseEvent* event) {
     const auto at = itemAt(event->position());
     if (at < 0 || event->button() != Qt::LeftButton) return;
-    const auto item = items()[static_cast<std::size_t>(at)];
-    if (item.kind == heading) return;
-    setFocused(find(format, item.index));
-    if (item.kind == star)
-        toggleFavourite(formatOf(item));
+    if (items()[static_cast<std::size_t>(at)].kind != heading) activate(at);
+}
+
+void FormatList::activate(int item) {
+    const auto chosen = items()[static_cast<std::size_t>(item)];
+    setFocused(find(format, chosen.index));
+    if (chosen.kind == star)
+        toggleFavourite(formatOf(chosen));
     else
-        preferences_.format = formatOf(item);
+        preferences_.format = formatOf(chosen);
 }
 
 void FormatList::keyPressEvent(QKeyEvent* event) {

@@ -28,6 +28,7 @@ protected:
     int neighbour(int from, Qt::Key key) const override;
     void focusMoved(int item) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void activate(int item) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

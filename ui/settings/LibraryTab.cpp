@@ -3,6 +3,7 @@
 #include "state/Models.h"
 #include "ui/settings/ListFrame.h"
 #include "ui/settings/LocationsList.h"
+#include "ui/shared/StyleParts.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -52,7 +53,8 @@ QWidget* LibraryTab::buttons() {
     auto* row = new QWidget(this);
     row->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 4, 0, 0);
+    // A layout cuts what its first button has for the ring off at the edge.
+    layout->setContentsMargins(StyleParts::kRingRoom.left(), 4, 0, 0);
     layout->setSpacing(kButtonGap);
     auto* add = new IconButton(theme(), "plus", 16, worded("Add a Folder…"), row);
     QObject::connect(add, &QPushButton::clicked, this, [this] { locations_.add(); });

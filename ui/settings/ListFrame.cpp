@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace tintra {
@@ -24,6 +25,7 @@ ListFrame::ListFrame(Theme& theme, Canvas* canvas, QWidget* parent)
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll_->setWidgetResizable(true);
     scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->verticalScrollBar()->setBackgroundRole(QPalette::Base);
     scroll_->setWidget(canvas);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }

@@ -185,11 +185,15 @@ void LocationsList::mousePressEvent(QMouseEvent* event) {
     const auto at = itemAt(event->position());
     if (at < 0 || event->button() != Qt::LeftButton) return;
     setFocused(at);
-    const auto item = items()[static_cast<std::size_t>(at)];
-    if (item.kind == row)
-        toggle(item.index);
+    activate(at);
+}
+
+void LocationsList::activate(int item) {
+    const auto chosen = items()[static_cast<std::size_t>(item)];
+    if (chosen.kind == row)
+        toggle(chosen.index);
     else
-        openMenu(item.index);
+        openMenu(chosen.index);
 }
 
 void LocationsList::contextMenuEvent(QContextMenuEvent* event) {
@@ -202,11 +206,10 @@ void LocationsList::keyPressEvent(QKeyEvent* event) {
     const bool presses = event->key() == Qt::Key_Space;
     const bool opens = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (focused() < 0 || (!presses && !opens)) return Canvas::keyPressEvent(event);
-    const auto item = items()[static_cast<std::size_t>(focused())];
-    if (presses && item.kind == row)
-        toggle(item.index);
+    if (presses)
+        activate(focused());
     else
-        openMenu(item.index);
+        openMenu(items()[static_cast<std::size_t>(focused())].index);
 }
 
 void LocationsList::toggle(std::size_t index) {

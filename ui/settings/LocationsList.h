@@ -31,6 +31,7 @@ protected:
     void focusMoved(int item) override;
     void mousePressEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void activate(int item) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

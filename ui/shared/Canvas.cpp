@@ -1,13 +1,16 @@
 #include "ui/shared/Canvas.h"
 
+#include "ui/shared/AccessibilityEvents.h"
 #include "ui/shared/Theme.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tintra {
 namespace {
@@ -56,13 +59,71 @@ void Canvas::setFocused(int item) {
     repaintItem(focused_);
     focused_ = item;
     repaintItem(focused_);
-    if (item >= 0 && hasFocus()) {
-        QAccessibleEvent event(this, QAccessible::Focus);
-        event.setChild(item);
-        QAccessible::updateAccessibility(&event);
-    }
+    if (hasFocus()) announce(QAccessible::Focus, item);
     focusMoved(item);
     if (changed) changed();
+}
+
+void Canvas::takeFocus(int item) {
+    setFocus(Qt::OtherFocusReason);
+    setFocused(item);
+}
+
+void Canvas::press(int item) {
+    if (item < 0 || item >= static_cast<int>(items_.size()) || !canPress(item)) return;
+    takeFocus(item);
+    activate(item);
+}
+
+bool Canvas::canPress(int item) const {
+    const auto& one = items_[static_cast<std::size_t>(item)];
+    return isEnabled() && isWalkedTo(one) && activates(one);
+}
+
+bool Canvas::activates(const CanvasItem&) const {
+    return true;
+}
+
+void Canvas::activate(int) {
+    // As the key itself: what the canvas leaves goes on to its window.
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(this, &enter);
+}
+
+void Canvas::announce(QAccessible::Event what, int item) {
+    if (item < 0 || !isAccessibilityHeard()) return;
+    QAccessibleEvent event(this, what);
+    event.setChild(item);
+    tellAccessibility(event);
+}
+
+void Canvas::announceChanges(const std::vector<CanvasItem>& before) {
+    if (!isAccessibilityHeard()) return;
+    if (before.size() != items_.size()) {
+        QAccessibleEvent event(this, QAccessible::ObjectReorder);
+        tellAccessibility(event);
+        // Another one may stand where the focus is.
+        if (hasFocus()) announce(QAccessible::Focus, focused_);
+        return;
+    }
+    for (std::size_t i = 0; i < items_.size(); ++i)
+        announceChange(before[i], static_cast<int>(i));
+}
+
+void Canvas::announceChange(const CanvasItem& was, int item) {
+    if (!isAccessibilityHeard()) return;
+    const auto& is = items_[static_cast<std::size_t>(item)];
+    if (was.name != is.name) announce(QAccessible::NameChanged, item);
+    if (was.value != is.value || was.description != is.description)
+        announce(QAccessible::DescriptionChanged, item);
+    if (was.selected != is.selected)
+        announce(is.selected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove, item);
+    if (was.checked == is.checked) return;
+    QAccessible::State which;
+    which.checked = true;
+    QAccessibleStateChangeEvent event(this, which);
+    event.setChild(item);
+    tellAccessibility(event);
 }
 
 void Canvas::markSelected(int item) {
@@ -71,24 +132,9 @@ void Canvas::markSelected(int item) {
         if (items_[i].selected == selected) continue;
         items_[i].selected = selected;
         repaintItem(static_cast<int>(i));
-        if (!selected) continue;
-        QAccessibleEvent event(this, QAccessible::Selection);
-        event.setChild(item);
-        QAccessible::updateAccessibility(&event);
+        announce(selected ? QAccessible::Selection : QAccessible::SelectionRemove,
+                 static_cast<int>(i));
     }
-}
-
-void Canvas::replaceItem(int item, CanvasItem now) {
-    if (item < 0 || item >= static_cast<int>(items_.size())) return;
-    repaintItem(item);
-    auto& held = items_[static_cast<std::size_t>(item)];
-    const bool tells = held.value != now.value || held.name != now.name;
-    held = std::move(now);
-    repaintItem(item);
-    if (!tells || !QAccessible::isActive()) return;
-    QAccessibleEvent event(this, QAccessible::NameChanged);
-    event.setChild(item);
-    QAccessible::updateAccessibility(&event);
 }
 
 bool Canvas::showsFocus() const {
@@ -113,15 +159,17 @@ void Canvas::layOut() {
     const auto before = focused_ >= 0 && focused_ < static_cast<int>(items_.size())
                             ? std::optional(items_[static_cast<std::size_t>(focused_)])
                             : std::nullopt;
-    const auto count = items_.size();
-    items_ = layoutItems(QSizeF(size()));
+    const auto old = std::exchange(items_, layoutItems(QSizeF(size())));
     focused_ = before ? find(before->kind, before->index) : -1;
     hovered_ = underMouse() ? itemAt(mapFromGlobal(QCursor::pos())) : -1;
-    if (count != items_.size() && QAccessible::isActive()) {
-        QAccessibleEvent event(this, QAccessible::ObjectReorder);
-        QAccessible::updateAccessibility(&event);
-    }
+    announceChanges(old);
     if (changed) changed();
+}
+
+void Canvas::setItem(int item, CanvasItem now) {
+    const auto was = std::exchange(items_[static_cast<std::size_t>(item)], std::move(now));
+    repaintItem(item);
+    announceChange(was, item);
 }
 
 void Canvas::repaintItem(int item) {
@@ -142,6 +190,8 @@ int Canvas::neighbour(int from, Qt::Key key) const {
     if (walked.empty()) return -1;
     if (key == Qt::Key_Home || from < 0) return walked.front();
     if (key == Qt::Key_End) return walked.back();
+    if (key == Qt::Key_PageUp || key == Qt::Key_PageDown)
+        return pageNeighbour(from, key == Qt::Key_PageDown);
     int best = from;
     std::optional<qreal> least;
     for (const auto i : walked) {
@@ -155,22 +205,43 @@ int Canvas::neighbour(int from, Qt::Key key) const {
     return best;
 }
 
+/// The item that lies nearest to a page further up or down, in the same column before others; where
+/// there is less than a page to go, the last one on the way.
+int Canvas::pageNeighbour(int from, bool forward) const {
+    const auto& here = items_[static_cast<std::size_t>(from)].rect;
+    const auto page = std::max<qreal>(visibleRegion().boundingRect().height(), here.height());
+    int best = from;
+    std::optional<qreal> least;
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+        const auto step = items_[i].rect.center() - here.center();
+        const auto along = forward ? step.y() : -step.y();
+        if (along < 1 || !isWalkedTo(items_[i])) continue;
+        const auto far = std::abs(along - page) + 2 * std::abs(step.x());
+        if (least && far >= *least) continue;
+        least = far;
+        best = static_cast<int>(i);
+    }
+    return best;
+}
+
 bool Canvas::event(QEvent* event) {
     if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::StyleChange) relayout();
+    if (event->type() == QEvent::MouseButtonPress) useKeyboard(false);
     return QWidget::event(event);
 }
 
 void Canvas::paintEvent(QPaintEvent* event) {
     layOut();
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::TextAntialiasing);
+    // Smooth edges of the ground would let through what lies beneath, at ratios such as 1.25.
     paintGround(painter, event->rect());
+    painter.setRenderHint(QPainter::Antialiasing);
     const auto beyond = overhang();
-    const QRectF dirty = event->rect().adjusted(-beyond, -beyond, beyond, beyond);
+    const auto& dirty = event->region();
     const bool ring = showsFocus();
     for (std::size_t i = 0; i < items_.size(); ++i) {
-        if (!items_[i].rect.intersects(dirty)) continue;
+        const auto covers = items_[i].rect.toAlignedRect();
+        if (!dirty.intersects(covers.adjusted(-beyond, -beyond, beyond, beyond))) continue;
         const auto item = static_cast<int>(i);
         painter.save();
         paintItem(painter, items_[i],
@@ -239,6 +310,11 @@ void Canvas::focusInEvent(QFocusEvent* event) {
     if (focused_ < 0 && focusByKeyboard_) setFocused(neighbour(-1, Qt::Key_Home));
     repaintItem(focused_);
     QWidget::focusInEvent(event);
+    // Qt tells of the canvas after this; what has the focus in it is the last to be told of.
+    const auto tell = [this] {
+        if (hasFocus()) announce(QAccessible::Focus, focused_);
+    };
+    if (isAccessibilityHeard()) QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void Canvas::focusOutEvent(QFocusEvent* event) {

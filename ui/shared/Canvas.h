@@ -18,7 +18,8 @@ struct CanvasItem {
     QRectF rect;           ///< in the canvas
     int kind = 0;          ///< of the canvas's own list of kinds
     std::size_t index = 0; ///< which of its kind
-    // What accessibility says of it. Items without a role are drawn and hit but not walked to.
+    // What accessibility says of it. Items without a role are drawn and hit but not walked to:
+    // text.
     QAccessible::Role role = QAccessible::NoRole;
     QString name{}, value{}, description{};
     bool selected = false;
@@ -40,6 +41,10 @@ public:
     int hovered() const { return hovered_; }
     int focused() const { return focused_; }
     void setFocused(int item);
+    /// Gives an item the keyboard's focus, and does with it what `activate` says.
+    void takeFocus(int item);
+    void press(int item);
+    bool canPress(int item) const;
     /// The focus is shown: it came by keyboard, or contrast is high.
     bool showsFocus() const;
 
@@ -63,6 +68,7 @@ protected:
 
     /// The items for a size, from back to front.
     virtual std::vector<CanvasItem> layoutItems(QSizeF size) const = 0;
+    /// Covers all of `dirty`; the painter does not smooth edges.
     virtual void paintGround(QPainter& painter, const QRect& dirty);
     virtual void paintItem(QPainter& painter, const CanvasItem& item, ItemState state) = 0;
     /// After all items: insertion bars, rings that overlap neighbours.
@@ -75,10 +81,14 @@ protected:
     /// The focus or the pointer has come to an item (-1: to none).
     virtual void focusMoved(int /*item*/) {}
     virtual void hoverMoved(int /*item*/, QPointF /*place*/) {}
+    /// What a press or a toggle by a screen reader does; the Enter key unless overridden.
+    virtual void activate(int item);
+    /// Whether that does anything there.
+    virtual bool activates(const CanvasItem& item) const;
     /// Makes one item the selected one (-1: none), without laying out anew.
     void markSelected(int item);
-    /// Puts what has changed of one item in its place, and repaints it where it was and is.
-    void replaceItem(int item, CanvasItem now);
+    /// Puts an item in the place of one that has the same rectangle, without laying out anew.
+    void setItem(int item, CanvasItem now);
     /// How far beyond its rectangle an item paints, px.
     virtual int overhang() const { return 6; }
 
@@ -93,6 +103,11 @@ protected:
 
 private:
     void layOut();
+    void announce(QAccessible::Event what, int item);
+    /// Tells accessibility how the items differ from those before.
+    void announceChanges(const std::vector<CanvasItem>& before);
+    void announceChange(const CanvasItem& was, int item);
+    int pageNeighbour(int from, bool forward) const;
 
     Theme& theme_;
     std::vector<CanvasItem> items_;

@@ -8,9 +8,14 @@ namespace {
 
 /// An item of a canvas as a screen reader meets it. It reads the canvas's list each time, so it
 /// never tells of what is gone.
-class ItemInterface final : public QAccessibleInterface {
+class ItemInterface final : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
     ItemInterface(Canvas* canvas, int item) : canvas_(canvas), index_(item) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
+                                                    : nullptr;
+    }
 
     bool isValid() const override { return item() != nullptr; }
     QObject* object() const override { return nullptr; }
@@ -34,7 +39,8 @@ public:
         case QAccessible::Value:
             return it->value;
         case QAccessible::Description:
-            return it->description;
+            // The bus carries values of numbers only.
+            return joined(it->value, it->description);
         default:
             return {};
         }
@@ -48,15 +54,18 @@ public:
     }
     QAccessible::Role role() const override {
         const auto* it = item();
-        return it ? it->role : QAccessible::NoRole;
+        if (!it) return QAccessible::NoRole;
+        return it->role == QAccessible::NoRole ? QAccessible::StaticText : it->role;
     }
     QAccessible::State state() const override {
         QAccessible::State state;
         const auto* it = item();
         state.invalid = it == nullptr;
         if (!it) return state;
-        state.focusable = state.selectable = true;
+        state.focusable = it->role != QAccessible::NoRole;
+        state.selectable = isSelectable(it->role);
         state.selected = it->selected;
+        state.disabled = !canvas_->isEnabled();
         state.checkable = it->checked.has_value();
         state.checked = it->checked.value_or(false);
         state.focused = canvas_->hasFocus() && canvas_->focused() == index_;
@@ -64,7 +73,31 @@ public:
         return state;
     }
 
+    QStringList actionNames() const override {
+        const auto* it = item();
+        if (!it || it->role == QAccessible::NoRole) return {};
+        QStringList names;
+        if (canvas_->canPress(index_)) names << (it->checked ? toggleAction() : pressAction());
+        return names << setFocusAction();
+    }
+    void doAction(const QString& name) override {
+        if (!actionNames().contains(name)) return;
+        if (name == setFocusAction())
+            canvas_->takeFocus(index_);
+        else
+            canvas_->press(index_);
+    }
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
 private:
+    static QString joined(const QString& value, const QString& description) {
+        if (value.isEmpty() || description.isEmpty()) return value + description;
+        return value + QStringLiteral(", ") + description;
+    }
+    static bool isSelectable(QAccessible::Role role) {
+        return role == QAccessible::ListItem || role == QAccessible::Cell ||
+               role == QAccessible::TreeItem;
+    }
     const CanvasItem* item() const {
         if (!canvas_ || index_ >= static_cast<int>(canvas_->items().size())) return nullptr;
         return &canvas_->items()[static_cast<std::size_t>(index_)];

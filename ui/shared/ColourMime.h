@@ -18,7 +18,7 @@ inline constexpr auto kColourMimeType = "application/x-tintra-colour";
 /// text, its code).
 std::unique_ptr<QMimeData> mimeOf(const Drag& drag, const QString& code);
 
-/// A palette as a file for other programs: written into a temporary folder when it is asked for.
+/// A palette as a file for other programs, which has been written already.
 std::unique_ptr<QMimeData> mimeOfPalette(const std::filesystem::path& file);
 
 /// What a drop or the clipboard holds, in the order in which it is understood.

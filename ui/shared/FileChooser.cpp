@@ -4,8 +4,11 @@
 #include "palettes/Stylesheet.h"
 #include "ui/shared/Text.h"
 
+#include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <array>
 #include <initializer_list>
@@ -42,12 +45,6 @@ QStringList filters(OpenQuestion::Of kind) {
     return {};
 }
 
-QString firstFolder(OpenQuestion::Of kind) {
-    return QStandardPaths::writableLocation(kind == OpenQuestion::Of::picture
-                                                ? QStandardPaths::PicturesLocation
-                                                : QStandardPaths::DocumentsLocation);
-}
-
 std::filesystem::path pathOf(const QString& name) {
     return QFile::encodeName(name).toStdString();
 }
@@ -58,6 +55,9 @@ void present(QFileDialog* dialogue, FileChooser::Answered answered) {
     dialogue->setAttribute(Qt::WA_QuitOnClose, false);
     QObject::connect(dialogue, &QFileDialog::finished, dialogue,
                      [dialogue, answered = std::move(answered)](int result) {
+                         // The list of completions is still open, and while it is, Qt passes
+                         // over the news of which window is active next.
+                         if (auto* popup = QApplication::activePopupWidget()) popup->close();
                          const auto files = dialogue->selectedFiles();
                          if (result == QDialog::Accepted && !files.isEmpty())
                              answered(pathOf(files.first()));
@@ -69,11 +69,18 @@ void present(QFileDialog* dialogue, FileChooser::Answered answered) {
 
 } // namespace
 
+QString FileChooser::usualFolder(OpenQuestion::Of kind) {
+    const auto named = QStandardPaths::writableLocation(kind == OpenQuestion::Of::picture
+                                                            ? QStandardPaths::PicturesLocation
+                                                            : QStandardPaths::DocumentsLocation);
+    return QFileInfo(named).isDir() ? named : QDir::homePath();
+}
+
 void FileChooser::ask(const OpenQuestion& question, QWidget* over, Answered answered) {
     const auto kind = question.kind;
     const auto known = folders_.find(kind);
     auto* dialogue = new QFileDialog(over, shown(question.prompt),
-                                     known == folders_.end() ? firstFolder(kind) : known->second);
+                                     known == folders_.end() ? usualFolder(kind) : known->second);
     const bool isFolder = kind == OpenQuestion::Of::folder;
     dialogue->setFileMode(isFolder ? QFileDialog::Directory : QFileDialog::ExistingFile);
     dialogue->setOption(QFileDialog::ShowDirsOnly, isFolder);

@@ -21,6 +21,8 @@ public:
     /// Returns at once; answers once, nothing for Cancel, and does not answer when `over` goes
     /// first.
     void ask(const OpenQuestion& question, QWidget* over, Answered answered);
+    /// Where files of a kind usually lie: the desktop's folder for them, else the home folder.
+    static QString usualFolder(OpenQuestion::Of kind);
     /// A folder to save in, beginning with `from`.
     static void askFolder(const std::filesystem::path& from, const QString& prompt, QWidget* over,
                           Answered answered);

@@ -1,6 +1,7 @@
 #include "ui/shared/NoticeBar.h"
 
 #include "platform/MainLoop.h"
+#include "ui/shared/AccessibilityEvents.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
@@ -71,6 +72,7 @@ void NoticeBar::present(const QString& text, double seconds, std::optional<Toast
     setAccessibleName(text_);
     setCursor(action_ ? Qt::PointingHandCursor : Qt::ArrowCursor);
     place();
+    const bool replaces = isVisible();
     show();
     raise();
     update();
@@ -78,8 +80,12 @@ void NoticeBar::present(const QString& text, double seconds, std::optional<Toast
         clock_.reset();
     else
         startClock();
-    QAccessibleEvent event(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    tellAccessibility(alert);
+    if (!replaces) return;
+    // The bus knows no alerts: readers tell of what comes to be shown.
+    QAccessibleEvent appears(this, QAccessible::ObjectShow);
+    tellAccessibility(appears);
 }
 
 void NoticeBar::dismiss() {
@@ -100,7 +106,7 @@ void NoticeBar::startClock() {
 }
 
 void NoticeBar::place() {
-    const QFontMetricsF words(theme_.font(TextStyle::control));
+    const QFontMetricsF words(theme_.font(TextStyle::control, theme_.color(Token::onsel)));
     auto wanted = words.horizontalAdvance(text_.left(kMeasured)) + 2 * kSide;
     if (action_) wanted += kGap + words.horizontalAdvance(shown(action_->title));
     const auto room = qreal(parentWidget()->width() - 2 * kSide);
@@ -115,7 +121,7 @@ void NoticeBar::paintEvent(QPaintEvent*) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme_.color(Token::sel));
     painter.drawRoundedRect(rect(), metrics::kGroupRadius, metrics::kGroupRadius);
-    auto font = theme_.font(TextStyle::control);
+    auto font = theme_.font(TextStyle::control, theme_.color(Token::onsel));
     painter.setFont(font);
     painter.setPen(theme_.color(Token::onsel));
     auto room = QRectF(rect()).adjusted(kSide, 0, -kSide, 0);

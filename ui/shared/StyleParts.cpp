@@ -5,13 +5,14 @@
 
 #include <QFontMetrics>
 #include <algorithm>
+#include <cmath>
 
 namespace tintra {
 namespace {
 
 constexpr int kMark = 28;   ///< place of the mark of a menu row
 constexpr int kEnd = 14;    ///< after the key of a menu row
-constexpr int kKeyGap = 32; ///< before it
+constexpr int kKeyGap = 24; ///< before it
 constexpr int kIcon = 16;
 
 bool is(const QStyleOption& option, QStyle::StateFlag flag) {
@@ -63,7 +64,7 @@ void StyleParts::buttonLabel(const QStyleOptionButton& option) const {
     const bool enabled = is(option, QStyle::State_Enabled);
     auto ink = theme_.color(enabled ? Token::ink : Token::off);
     if (isDefault(option) && enabled) ink = theme_.color(Token::onsel);
-    const auto font = theme_.font(TextStyle::control);
+    const auto font = theme_.font(TextStyle::control, ink);
     painter_.setFont(font);
     painter_.setPen(ink);
     auto room = option.rect;
@@ -124,9 +125,26 @@ void StyleParts::radio(const QStyleOption& option) const {
 }
 
 void StyleParts::menuPanel(const QStyleOption& option) const {
-    painter_.setPen(theme_.color(Token::line));
-    painter_.setBrush(theme_.color(Token::raised));
-    painter_.drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter_.fillRect(option.rect, theme_.color(Token::raised));
+    painter_.setRenderHint(QPainter::Antialiasing);
+    painter_.setPen(QPen(theme_.color(Token::edge), 1));
+    painter_.setBrush(Qt::NoBrush);
+    painter_.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5),
+                             metrics::kControlRadius, metrics::kControlRadius);
+}
+
+QRegion StyleParts::roundRegion(const QRect& whole) {
+    // A circle's rows, so that no platform has to blend windows for it.
+    constexpr int kRadius = metrics::kControlRadius;
+    QRegion region(whole.adjusted(0, kRadius, 0, -kRadius));
+    for (int row = 0; row < kRadius; ++row) {
+        const auto up = kRadius - row - 0.5;
+        const auto in =
+            static_cast<int>(std::lround(kRadius - std::sqrt(kRadius * kRadius - up * up)));
+        region += QRect(whole.left() + in, whole.top() + row, whole.width() - 2 * in, 1);
+        region += QRect(whole.left() + in, whole.bottom() - row, whole.width() - 2 * in, 1);
+    }
+    return region;
 }
 
 QSize StyleParts::menuItemSize(const Theme& theme, const QStyleOptionMenuItem& option, int height,
@@ -137,16 +155,18 @@ QSize StyleParts::menuItemSize(const Theme& theme, const QStyleOptionMenuItem& o
     const QFontMetrics body(theme.font(TextStyle::body)), caption(theme.font(TextStyle::caption));
     auto width =
         std::max(body.horizontalAdvance(text.title), caption.horizontalAdvance(text.detail));
-    if (!text.key.isEmpty()) width += kKeyGap + body.horizontalAdvance(text.key);
+    // The menu adds the width of its widest key by itself.
+    if (!text.key.isEmpty()) width += kKeyGap;
+    if (option.menuItemType == QStyleOptionMenuItem::SubMenu) width += kIcon;
     auto rowHeight = theme.scaled(height);
     if (!text.detail.isEmpty()) rowHeight += theme.lineHeight(TextStyle::caption) + 3;
-    return {checkWidth + 8 + width + kEnd + kIcon, rowHeight};
+    return {checkWidth + 8 + width + kEnd, rowHeight};
 }
 
 void StyleParts::menuItem(const QStyleOptionMenuItem& option) const {
     const QRectF row = option.rect;
     if (option.menuItemType == QStyleOptionMenuItem::Separator && option.text.isEmpty()) {
-        painter_.fillRect(QRectF(row.left() + 8, row.center().y(), row.width() - 16, 1),
+        painter_.fillRect(QRectF(row.left() + 8, std::floor(row.center().y()), row.width() - 16, 1),
                           theme_.color(Token::line));
         return;
     }
@@ -167,19 +187,22 @@ void StyleParts::menuItem(const QStyleOptionMenuItem& option) const {
                             theme_.icon("check", kIcon, ink, ratio));
     auto words = row.adjusted(kMark + 8, 0, -kEnd, 0);
     if (!text.detail.isEmpty()) {
-        auto detail = words.adjusted(0, words.height() / 2, 0, -2);
-        painter_.setFont(theme_.font(TextStyle::caption));
+        auto detail = words.adjusted(0, words.height() / 2, 0, -5);
+        painter_.setFont(theme_.font(TextStyle::caption, ink));
         painter_.setPen(chosen ? ink : theme_.color(Token::ink3));
         painter_.drawText(detail, Qt::AlignLeft | Qt::AlignVCenter, text.detail);
-        words.setBottom(detail.top() + 4);
+        words.adjust(0, 5, 0, 0);
+        words.setBottom(detail.top() + 2);
     }
-    painter_.setFont(theme_.font(heading ? TextStyle::caption : TextStyle::body));
+    auto font = theme_.font(heading ? TextStyle::caption : TextStyle::body, ink);
+    if (heading) font.setWeight(QFont::DemiBold);
+    painter_.setFont(font);
     painter_.setPen(heading ? theme_.color(Token::ink3) : ink);
     painter_.drawText(words, Qt::AlignLeft | Qt::AlignVCenter, text.title);
     if (option.menuItemType == QStyleOptionMenuItem::SubMenu)
         painter_.drawPixmap(QPointF(words.right() - kIcon + 4, row.center().y() - kIcon / 2.0),
                             theme_.icon("chevron-right", kIcon, ink, ratio));
-    painter_.setFont(theme_.font(TextStyle::small));
+    painter_.setFont(theme_.font(TextStyle::small, ink));
     painter_.setPen(chosen ? ink : theme_.color(enabled ? Token::ink3 : Token::off));
     painter_.drawText(words, Qt::AlignRight | Qt::AlignVCenter, text.key);
 }
@@ -194,8 +217,9 @@ void StyleParts::menuBarItem(const QStyleOptionMenuItem& option) const {
         painter_.drawRoundedRect(QRectF(option.rect).adjusted(1, 2, -1, -2), metrics::kChipRadius,
                                  metrics::kChipRadius);
     }
-    painter_.setFont(theme_.font(TextStyle::body));
-    painter_.setPen(theme_.color(open ? Token::onsel : Token::ink));
+    const auto ink = theme_.color(open ? Token::onsel : Token::ink);
+    painter_.setFont(theme_.font(TextStyle::body, ink));
+    painter_.setPen(ink);
     painter_.drawText(option.rect, Qt::AlignCenter | Qt::TextHideMnemonic, option.text);
 }
 

@@ -5,6 +5,7 @@
 #include <QMargins>
 #include <QPainter>
 #include <QRect>
+#include <QRegion>
 #include <QStyleOption>
 
 namespace tintra {
@@ -22,6 +23,8 @@ public:
     void check(const QStyleOption& option) const;
     void radio(const QStyleOption& option) const;
     void menuPanel(const QStyleOption& option) const;
+    /// What of a menu or a tip is shown: all but its corners.
+    static QRegion roundRegion(const QRect& whole);
     /// A second line of a row stands behind a line feed in its text.
     void menuItem(const QStyleOptionMenuItem& option) const;
     static QSize menuItemSize(const Theme& theme, const QStyleOptionMenuItem& option, int height,

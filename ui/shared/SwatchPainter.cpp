@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kCheck = 12; ///< a square of the checkerboard, px
 constexpr int kButton = 28, kButtonGap = 2, kInset = 8;
+constexpr int kWordsOfColumn = 80; ///< a name of two lines and a code, with what is around them
 
 QPainterPath rounded(const QRectF& in, const std::array<int, 4>& radii) {
     QPainterPath path;
@@ -33,11 +34,64 @@ QPainterPath rounded(const QRectF& in, const std::array<int, 4>& radii) {
     return path;
 }
 
+/// The four arcs of a round rectangle alone.
+QPainterPath corners(const QRectF& in, qreal radius) {
+    QPainterPath path;
+    const QSizeF circle(2 * radius, 2 * radius);
+    const auto add = [&](QPointF topLeft, int from) {
+        const QRectF of(topLeft, circle);
+        path.arcMoveTo(of, from);
+        path.arcTo(of, from, 90);
+    };
+    add({in.right() - circle.width(), in.top()}, 0);
+    add(in.topLeft(), 90);
+    add({in.left(), in.bottom() - circle.height()}, 180);
+    add({in.right() - circle.width(), in.bottom() - circle.height()}, 270);
+    return path;
+}
+
 bool isSquare(const std::array<int, 4>& radii) {
     return std::all_of(radii.begin(), radii.end(), [](int radius) { return radius == 0; });
 }
 
-/// Fills the shape without seams between neighbours: square ones by whole pixels.
+/// Brought to whole pixels of the screen, so that neighbours meet without a seam at every ratio;
+/// as it is where the painter is turned.
+QRectF onPixels(const QPainter& painter, const QRectF& in) {
+    const auto toDevice = painter.deviceTransform();
+    if (toDevice.type() > QTransform::TxScale) return in;
+    const auto there = toDevice.mapRect(in);
+    const QPointF topLeft(std::round(there.left()), std::round(there.top()));
+    const QPointF bottomRight(std::round(there.right()), std::round(there.bottom()));
+    return toDevice.inverted().mapRect(QRectF(topLeft, bottomRight));
+}
+
+/// The shape of a ring within a swatch.
+QPainterPath ringPath(const QRectF& in, const std::array<int, 4>& radii, qreal inset) {
+    auto inner = radii;
+    for (auto& radius : inner)
+        radius = std::max(0, radius - static_cast<int>(std::lround(inset)));
+    return rounded(in.adjusted(inset, inset, -inset, -inset), inner);
+}
+
+/// Its edges lie between device pixels.
+bool isOnPixels(const QPainter& painter, const QRectF& in) {
+    const auto& transform = painter.deviceTransform();
+    if (transform.type() > QTransform::TxScale) return false;
+    const auto mapped = transform.mapRect(in);
+    return mapped == QRectF(mapped.toRect());
+}
+
+/// Fills what ends on whole pixels of the device, where rounding alone would make an edge of half
+/// tones.
+void fillPixels(QPainter& painter, const QRectF& in, const QBrush& brush) {
+    const bool smooth = painter.testRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.fillRect(in, brush);
+    painter.setRenderHint(QPainter::Antialiasing, smooth);
+}
+
+/// Fills the shape without seams between neighbours: square ones by whole pixels, and of round ones
+/// all but the corners.
 void fillShape(QPainter& painter, const QRectF& in, const std::array<int, 4>& radii,
                const QBrush& brush) {
     if (isSquare(radii)) {
@@ -46,7 +100,20 @@ void fillShape(QPainter& painter, const QRectF& in, const std::array<int, 4>& ra
     }
     painter.setPen(Qt::NoPen);
     painter.setBrush(brush);
-    painter.drawPath(rounded(in, radii));
+    const auto [topLeft, topRight, bottomRight, bottomLeft] = radii;
+    const auto above = std::max(topLeft, topRight), below = std::max(bottomLeft, bottomRight);
+    const auto middle = in.adjusted(0, above, 0, -below);
+    if (middle.height() < 1 || !isOnPixels(painter, middle)) {
+        painter.drawPath(rounded(in, radii));
+        return;
+    }
+    // Antialiasing what lies far from a corner takes longer than all else in a frame.
+    fillPixels(painter, middle, brush);
+    if (above > 0)
+        painter.drawPath(rounded(QRectF(in.topLeft(), middle.topRight()), {topLeft, topRight}));
+    if (below > 0)
+        painter.drawPath(rounded(QRectF(middle.bottomLeft(), in.bottomRight()),
+                                 {0, 0, bottomRight, bottomLeft}));
 }
 
 QBrush checkerboard(const Theme& theme) {
@@ -83,8 +150,9 @@ QColor SwatchPainter::foreground(const WashColor& color, Vision vision) const {
     return toQColor(flat(color, vision).readableForeground());
 }
 
-void SwatchPainter::fill(QPainter& painter, const QRectF& in, const WashColor& color, Vision vision,
-                         std::array<int, 4> radii) const {
+void SwatchPainter::fill(QPainter& painter, const QRectF& place, const WashColor& color,
+                         Vision vision, std::array<int, 4> radii) const {
+    const auto in = onPixels(painter, place);
     if (color.isOpaque()) {
         fillShape(painter, in, radii, toQColor(simulate(vision, color)));
         return;
@@ -124,9 +192,23 @@ void SwatchPainter::fill(QPainter& painter, const QRectF& in, const WashColor& c
 }
 
 void SwatchPainter::hairline(QPainter& painter, const QRectF& in, int radius) const {
-    painter.setPen(QPen(QColor(127, 127, 127, 89), 1));
+    const QColor color(127, 127, 127, 89);
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(in.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    const auto high = in.height() - 2 * radius, wide = in.width() - 2 * radius;
+    if (high < 1 || wide < 1 || !isOnPixels(painter, in.adjusted(radius, radius, 0, 0))) {
+        painter.setPen(QPen(color, 1));
+        painter.drawRoundedRect(in.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+        return;
+    }
+    painter.fillRect(QRectF(in.left() + radius, in.top(), wide, 1), color);
+    painter.fillRect(QRectF(in.left() + radius, in.bottom() - 1, wide, 1), color);
+    painter.fillRect(QRectF(in.left(), in.top() + radius, 1, high), color);
+    painter.fillRect(QRectF(in.right() - 1, in.top() + radius, 1, high), color);
+    if (radius == 0) return;
+    QPen pen(color, 1);
+    pen.setCapStyle(Qt::FlatCap);
+    painter.setPen(pen);
+    painter.drawPath(corners(in.adjusted(0.5, 0.5, -0.5, -0.5), radius));
 }
 
 void SwatchPainter::chip(QPainter& painter, const QRectF& in, const WashColor& color,
@@ -136,7 +218,8 @@ void SwatchPainter::chip(QPainter& painter, const QRectF& in, const WashColor& c
     hairline(painter, in, kRadius);
 }
 
-void SwatchPainter::paint(QPainter& painter, const QRectF& in, const SwatchLook& look) const {
+void SwatchPainter::paint(QPainter& painter, const QRectF& place, const SwatchLook& look) const {
+    const auto in = onPixels(painter, place);
     if (look.leftBehind) {
         painter.setPen(QPen(theme_.color(Token::edge), 1.5, Qt::DashLine));
         painter.setBrush(Qt::NoBrush);
@@ -147,7 +230,7 @@ void SwatchPainter::paint(QPainter& painter, const QRectF& in, const SwatchLook&
     fill(painter, in, look.color, look.vision, look.radii);
     const auto under = flat(look.color, look.vision);
     const auto ink = toQColor(under.readableForeground());
-    const SwatchWords words(theme_, in, look);
+    const SwatchWords words(theme_, lines_, in, look);
     if (!look.color.isOpaque()) {
         painter.save();
         painter.setClipPath(rounded(in, look.radii), Qt::IntersectClip);
@@ -182,21 +265,21 @@ void SwatchPainter::paintRings(QPainter& painter, const QRectF& in, const Swatch
     if (look.focused && look.shape != SwatchShape::tile) {
         const auto other = ink == QColor(Qt::black) ? QColor(Qt::white) : QColor(Qt::black);
         painter.setPen(QPen(ink, 3));
-        painter.drawPath(rounded(in.adjusted(1.5, 1.5, -1.5, -1.5), look.radii));
+        painter.drawPath(ringPath(in, look.radii, 1.5));
         painter.setPen(QPen(other, 2));
-        painter.drawPath(rounded(in.adjusted(4, 4, -4, -4), look.radii));
+        painter.drawPath(ringPath(in, look.radii, 4));
     } else if (look.selected) {
         painter.setPen(QPen(ink, 2));
-        painter.drawPath(rounded(in.adjusted(1, 1, -1, -1), look.radii));
+        painter.drawPath(ringPath(in, look.radii, 1));
     }
 }
 
 QRectF SwatchPainter::nameRect(const QRectF& in, const SwatchLook& look) const {
-    return SwatchWords(theme_, in, look).name();
+    return SwatchWords(theme_, lines_, in, look).name();
 }
 
 QRectF SwatchPainter::codeRect(const QRectF& in, const SwatchLook& look) const {
-    return SwatchWords(theme_, in, look).code();
+    return SwatchWords(theme_, lines_, in, look).code();
 }
 
 std::vector<QRectF> SwatchPainter::buttonRects(const QRectF& in, SwatchShape shape,
@@ -206,7 +289,10 @@ std::vector<QRectF> SwatchPainter::buttonRects(const QRectF& in, SwatchShape sha
     const auto step = side + kButtonGap;
     const bool isRow = shape == SwatchShape::row;
     const auto room = in.width() - 2 * kInset + kButtonGap;
-    const auto perLine = std::max<std::size_t>(1, static_cast<std::size_t>(room / step));
+    auto perLine = std::max<std::size_t>(1, static_cast<std::size_t>(room / step));
+    // One below the other in a high column; side by side where all have room, or none else.
+    const auto stack = static_cast<qreal>(count + 1) * step + theme_.scaled(kWordsOfColumn);
+    if (perLine < count && shape != SwatchShape::tile && stack <= in.height()) perLine = 1;
     for (std::size_t i = 0; i < count; ++i) {
         if (isRow) {
             const auto fromRight = static_cast<qreal>(count - i) * step;
@@ -223,7 +309,7 @@ std::vector<QRectF> SwatchPainter::buttonRects(const QRectF& in, SwatchShape sha
 }
 
 QPixmap SwatchPainter::card(const SwatchLook& look, QSize size, bool refused, qreal ratio) const {
-    constexpr int kMargin = 18;
+    constexpr int kMargin = 20; // the tilt, the rings and the badge
     constexpr qreal kTilt = -2;
     const QSize whole = size + QSize(2 * kMargin, 2 * kMargin);
     QPixmap pixmap(whole * ratio);
@@ -247,12 +333,13 @@ QPixmap SwatchPainter::card(const SwatchLook& look, QSize size, bool refused, qr
     plain.radii.fill(metrics::kGroupRadius);
     paint(painter, card, plain);
     if (refused) {
-        const QRectF badge(card.right() - 16, card.top() - 16, 30, 30);
+        const QRectF badge(card.right() - 18, card.top() - 12, 30, 30);
         painter.setPen(QPen(Qt::white, 2));
         painter.setBrush(QColor(0x16, 0x16, 0x16));
         painter.drawEllipse(badge);
         painter.setBrush(Qt::NoBrush);
-        const auto ring = badge.adjusted(8, 8, -8, -8);
+        const auto ring = badge.adjusted(9, 9, -9, -9);
+        painter.setPen(QPen(Qt::white, 1.5));
         painter.drawEllipse(ring);
         const auto reach = ring.width() / 2 * M_SQRT1_2;
         painter.drawLine(ring.center() - QPointF(reach, reach),

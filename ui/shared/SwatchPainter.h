@@ -3,6 +3,7 @@
 #include "colour/Vision.h"
 #include "colour/WashColor.h"
 #include "state/Choices.h"
+#include "ui/shared/TextLines.h"
 
 #include <QColor>
 #include <QPainter>
@@ -85,6 +86,7 @@ private:
 
     const Theme& theme_;
     const Preferences& preferences_;
+    mutable TextLines lines_;
 };
 
 /// Gamma-encoded sRGB, clamped; alpha as it is.

@@ -3,8 +3,6 @@
 #include "ui/shared/Figures.h"
 #include "ui/shared/Theme.h"
 
-#include <QFontMetricsF>
-#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -12,6 +10,8 @@ namespace tintra {
 namespace {
 
 constexpr int kInset = 12;    ///< of words from the edges of a swatch, px
+constexpr int kNameEnd = 8;   ///< between a name and the right edge
+constexpr int kTight = 4;     ///< of a code that has no room else
 constexpr int kMark = 24;     ///< the circle or square around a pin's number
 constexpr int kRowIndex = 36; ///< what the number takes of a row
 constexpr int kButton = 28, kButtonGap = 2;
@@ -22,25 +22,15 @@ bool isAtFoot(SwatchShape shape) {
            shape == SwatchShape::bandCell;
 }
 
-/// The name in at most two lines, the second one cut with an ellipsis.
-QStringList linesOf(const QString& text, const QFont& font, qreal width) {
-    const QFontMetricsF measure(font);
-    if (measure.horizontalAdvance(text) <= width) return {text};
-    QTextLayout layout(text, font);
-    layout.beginLayout();
-    auto line = layout.createLine();
-    line.setLineWidth(width);
-    layout.endLayout();
-    const auto cut = line.textStart() + line.textLength();
-    const auto first = text.left(cut).trimmed(), rest = text.mid(cut).trimmed();
-    if (rest.isEmpty()) return {first};
-    return {first, measure.elidedText(rest, Qt::ElideRight, width)};
-}
-
 } // namespace
 
-SwatchWords::SwatchWords(const Theme& theme, const QRectF& in, const SwatchLook& look)
-    : theme_(theme), in_(in), look_(look) {}
+SwatchWords::SwatchWords(const Theme& theme, TextLines& lines, const QRectF& in,
+                         const SwatchLook& look)
+    : theme_(theme), lines_(lines), in_(in), look_(look) {}
+
+QFont SwatchWords::measured(TextStyle style) const {
+    return theme_.font(style, Qt::black);
+}
 
 QString SwatchWords::share() const {
     if (look_.color.isOpaque()) return {};
@@ -50,8 +40,8 @@ QString SwatchWords::share() const {
 
 int SwatchWords::nameLines() const {
     if (look_.shape == SwatchShape::bandCell) return 0;
-    const auto width = in_.width() - 2 * kInset;
-    return static_cast<int>(linesOf(look_.name, theme_.font(TextStyle::name), width).size());
+    const auto width = in_.width() - kInset - kNameEnd;
+    return static_cast<int>(lines_.twoLines(measured(TextStyle::name), look_.name, width).size());
 }
 
 QRectF SwatchWords::code() const {
@@ -62,13 +52,11 @@ QRectF SwatchWords::code() const {
     case SwatchShape::bandCell:
         return {in_.left() + kInset, in_.bottom() - kInset - line, in_.width() - 2 * kInset, line};
     case SwatchShape::onSide: {
-        const auto length =
-            QFontMetricsF(theme_.font(TextStyle::codeOnSide)).horizontalAdvance(look_.code);
+        const auto length = lines_.width(measured(TextStyle::codeOnSide), look_.code);
         return {in_.center().x() - line / 2, in_.bottom() - kInset - length, line, length};
     }
     case SwatchShape::row: {
-        const auto width =
-            QFontMetricsF(theme_.font(TextStyle::code)).horizontalAdvance(look_.code) + 2;
+        const auto width = lines_.width(measured(TextStyle::code), look_.code) + 2;
         return {in_.right() - kInset - width, in_.center().y() - line / 2, width, line};
     }
     case SwatchShape::cell:
@@ -84,7 +72,8 @@ QRectF SwatchWords::name() const {
     case SwatchShape::column:
     case SwatchShape::tile: {
         const auto height = line * nameLines();
-        return {codePlace.left(), codePlace.top() - height, codePlace.width(), height};
+        return {codePlace.left(), codePlace.top() - height, in_.width() - kInset - kNameEnd,
+                height};
     }
     case SwatchShape::onSide: {
         const auto bottom = codePlace.top() - kInset;
@@ -110,7 +99,7 @@ QRectF SwatchWords::indexRect() const {
     if (look_.shape == SwatchShape::row)
         return {in_.left() + kInset, in_.center().y() - kMark / 2.0, kMark, kMark};
     if (look_.pinned) return {in_.left() + kInset, in_.top() + kInset, kMark, kMark};
-    const auto width = figuresWidth(theme_.font(TextStyle::caption), look_.index);
+    const auto width = figuresWidth(measured(TextStyle::caption), look_.index);
     return {in_.left() + kInset, in_.top() + kInset, width, line};
 }
 
@@ -122,8 +111,7 @@ QRectF SwatchWords::ground() const {
     case SwatchShape::row:
         return {in_.left(), in_.center().y() - least / 2, in_.width(), least};
     case SwatchShape::onSide: {
-        const auto words =
-            QFontMetricsF(theme_.font(TextStyle::name)).horizontalAdvance(look_.name);
+        const auto words = lines_.width(measured(TextStyle::name), look_.name);
         const auto place = name();
         const auto top = place.bottom() - std::min(words, place.height()) - kInset / 2.0;
         return QRectF(QPointF(in_.left(), std::max(in_.top(), top)), in_.bottomRight());
@@ -138,7 +126,7 @@ QRectF SwatchWords::ground() const {
 void SwatchWords::paintIndex(QPainter& painter, const QColor& ink, const QColor& ground) const {
     if (look_.index.isEmpty() || look_.shape == SwatchShape::onSide) return;
     const auto place = indexRect();
-    painter.setFont(theme_.font(TextStyle::caption));
+    painter.setFont(theme_.font(TextStyle::caption, ink));
     if (!look_.color.isOpaque()) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(ground);
@@ -163,22 +151,18 @@ void SwatchWords::paintOnSide(QPainter& painter) const {
     painter.save();
     painter.translate(in_.center().x(), in_.bottom() - kInset);
     painter.rotate(-90);
-    const auto codeFont = theme_.font(TextStyle::codeOnSide);
-    const auto length = QFontMetricsF(codeFont).horizontalAdvance(look_.code);
+    const auto codeFont = measured(TextStyle::codeOnSide);
+    const auto length = lines_.width(codeFont, look_.code);
     const qreal line = theme_.lineHeight(TextStyle::name);
     const auto room = in_.height() - 2 * kInset;
-    if (length <= room) {
-        painter.setFont(codeFont);
-        painter.drawText(QRectF(0, -line / 2, length + 1, line), Qt::AlignLeft | Qt::AlignVCenter,
-                         look_.code);
-    }
+    if (length <= room)
+        lines_.paint(painter, codeFont, QRectF(0, -line / 2, length + 1, line), Qt::AlignLeft,
+                     look_.code);
     const auto nameRoom = room - length - kInset;
     if (nameRoom > line && !look_.hidesName) {
-        const auto font = theme_.font(TextStyle::name);
-        painter.setFont(font);
-        painter.drawText(QRectF(length + kInset, -line / 2, nameRoom, line),
-                         Qt::AlignLeft | Qt::AlignVCenter,
-                         QFontMetricsF(font).elidedText(look_.name, Qt::ElideRight, nameRoom));
+        const auto text = lines_.cut(measured(TextStyle::name), look_.name, nameRoom);
+        lines_.paint(painter, theme_.font(TextStyle::name, painter.pen().color()),
+                     QRectF(length + kInset, -line / 2, nameRoom, line), Qt::AlignLeft, text);
     }
     painter.restore();
 }
@@ -186,46 +170,49 @@ void SwatchWords::paintOnSide(QPainter& painter) const {
 void SwatchWords::paintName(QPainter& painter) const {
     const auto place = name();
     if (look_.hidesName || place.width() < 8) return;
-    const auto font = theme_.font(TextStyle::name);
-    painter.setFont(font);
+    const auto font = measured(TextStyle::name);
+    const auto inked = theme_.font(TextStyle::name, painter.pen().color());
     if (look_.shape == SwatchShape::row) {
-        painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
-                         QFontMetricsF(font).elidedText(look_.name, Qt::ElideRight, place.width()));
+        lines_.paint(painter, inked, place, Qt::AlignLeft,
+                     lines_.cut(font, look_.name, place.width()));
         return;
     }
     const qreal line = theme_.lineHeight(TextStyle::name);
     auto y = place.top();
-    for (const auto& text : linesOf(look_.name, font, place.width())) {
-        painter.drawText(QRectF(place.left(), y, place.width(), line),
-                         Qt::AlignLeft | Qt::AlignVCenter, text);
+    for (const auto& text : lines_.twoLines(font, look_.name, place.width())) {
+        lines_.paint(painter, inked, QRectF(place.left(), y, place.width(), line), Qt::AlignLeft,
+                     text);
         y += line;
     }
 }
 
 void SwatchWords::paintCode(QPainter& painter, const QColor& ink, const QColor& ground) const {
     auto place = code();
-    const auto font = theme_.font(TextStyle::code);
-    const QFontMetricsF measure(font);
-    painter.setFont(font);
+    auto font = measured(TextStyle::code);
+    if (isAtFoot(look_.shape) && lines_.width(font, look_.code) > place.width()) {
+        // The eight digits of a translucent colour find room in the narrowest column.
+        font = measured(TextStyle::codeOnSide);
+        place.setRight(in_.right() - kTight);
+    }
     const auto alpha = isAtFoot(look_.shape) ? share() : QString();
-    const auto alphaWidth = alpha.isEmpty() ? 0 : measure.horizontalAdvance(alpha) + 8;
+    const auto alphaWidth = alpha.isEmpty() ? 0 : lines_.width(font, alpha) + 8;
     const auto room = place.width();
-    const bool bothFit = measure.horizontalAdvance(look_.code) + alphaWidth <= room;
+    const bool bothFit = lines_.width(font, look_.code) + alphaWidth <= room;
     if (!alpha.isEmpty() && bothFit) {
-        painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, alpha);
+        lines_.paint(painter, font, place, Qt::AlignRight, alpha);
         place.setWidth(room - alphaWidth);
     }
-    const auto text = measure.elidedText(look_.code, Qt::ElideRight, place.width());
+    const auto text = lines_.cut(font, look_.code, place.width());
     if (look_.codeFlashes) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(ink);
         painter.drawRoundedRect(
-            QRectF(place.topLeft(), QSizeF(measure.horizontalAdvance(text), place.height()))
+            QRectF(place.topLeft(), QSizeF(lines_.width(font, text), place.height()))
                 .adjusted(-4, 0, 4, 0),
             metrics::kChipRadius, metrics::kChipRadius);
         painter.setPen(ground);
     }
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, text);
+    lines_.paint(painter, font, place, Qt::AlignLeft, text);
     painter.setPen(ink);
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "ui/shared/SwatchPainter.h"
+#include "ui/shared/Theme.h"
+#include "ui/shared/TextLines.h"
 
 #include <QRectF>
 #include <QString>
@@ -10,7 +12,7 @@ namespace tintra {
 /// Where the words of a swatch stand, and their painting.
 class SwatchWords {
 public:
-    SwatchWords(const Theme& theme, const QRectF& in, const SwatchLook& look);
+    SwatchWords(const Theme& theme, TextLines& lines, const QRectF& in, const SwatchLook& look);
 
     /// In the coordinates of the swatch, rotated shapes included; empty where a word has no room.
     QRectF name() const;
@@ -31,7 +33,12 @@ private:
     /// "60%" for a translucent colour, else nothing.
     QString share() const;
 
+    /// The face that words are measured in: of dark ink, which is the wider one, so that a swatch
+    /// has the same lines whatever its colour.
+    QFont measured(TextStyle style) const;
+
     const Theme& theme_;
+    TextLines& lines_;
     const QRectF in_;
     const SwatchLook& look_;
 };

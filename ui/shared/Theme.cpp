@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QPainter>
 #include <QStringBuilder>
 #include <QSvgRenderer>
@@ -103,10 +104,36 @@ QStringList families(Face face) {
     return {systemText};
 }
 
+/// Whether the interface is set in Inter.
+bool isOurs() {
+    static const bool is =
+        QFontInfo(QFont(QStringLiteral("Inter"))).family() == QStringLiteral("Inter");
+    return is;
+}
+
+/// FreeType darkens the stems of Inter's outlines, and Qt blends them by gamma: together that is
+/// right for dark ink, but makes light ink look a weight heavier than it is.
+QFont::Weight lighter(QFont::Weight weight) {
+    switch (weight) {
+    case QFont::DemiBold:
+        return QFont::Medium;
+    case QFont::Medium:
+        return QFont::Normal;
+    case QFont::Normal:
+        return QFont::Light;
+    default:
+        return weight;
+    }
+}
+
 } // namespace
 
 struct Theme::Subscriptions {
     std::vector<QPropertyNotifier> all;
+    using Fonts = QHash<TextStyle, QFont>;
+    /// For dark and for light ink, made once for as long as nothing changes: a copy of a font
+    /// shares what was found of its face.
+    Fonts fonts, lightFonts;
 };
 
 Theme::Theme(const Preferences& preferences, const DesktopSettings& desktop)
@@ -115,6 +142,8 @@ Theme::Theme(const Preferences& preferences, const DesktopSettings& desktop)
     const auto follow = [this](const auto& property) {
         subscriptions_->all.emplace_back(property, [this] {
             icons_.clear();
+            subscriptions_->fonts.clear();
+            subscriptions_->lightFonts.clear();
             version_ = version_ + 1;
         });
     };
@@ -154,13 +183,22 @@ QColor Theme::color(Token token) const {
 }
 
 QFont Theme::font(TextStyle style) const {
+    return font(style, color(Token::ink));
+}
+
+QFont Theme::font(TextStyle style, const QColor& ink) const {
+    const bool isLight = ink.lightnessF() > 0.5F;
+    auto& made = isLight ? subscriptions_->lightFonts : subscriptions_->fonts;
+    if (const auto found = made.constFind(style); found != made.constEnd()) return *found;
     const auto& row = rowOf(style);
     QFont font;
     font.setFamilies(families(row.face));
     font.setPixelSize(scaled(row.size));
-    font.setWeight(row.weight);
+    const bool growsHeavy = row.face != Face::mono && isOurs() && isLight;
+    font.setWeight(growsHeavy ? lighter(row.weight) : row.weight);
     // Ligatures of a mono face would join the hyphens of "--name".
     if (row.face == Face::mono) font.setStyleStrategy(QFont::PreferNoShaping);
+    made.insert(style, font);
     return font;
 }
 

@@ -76,7 +76,9 @@ public:
     int milliseconds(int forMotion) const;
 
     QColor color(Token token) const;
+    /// For text in `ink`; without one, in the theme's own.
     QFont font(TextStyle style) const;
+    QFont font(TextStyle style, const QColor& ink) const;
     /// px, text size applied.
     int lineHeight(TextStyle style) const;
     /// A height or width of a control at the text size chosen: 28 is 28, 32 or 36.

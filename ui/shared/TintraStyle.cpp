@@ -214,6 +214,7 @@ int TintraStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
                            QStyleHintReturn* data) const {
     switch (hint) {
     case SH_EtchDisabledText:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
         return 0;
     case SH_MenuBar_AltKeyNavigation:
         return 1;
@@ -223,6 +224,13 @@ int TintraStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
         return 0;
     case SH_Widget_Animation_Duration:
         return theme_.milliseconds(120);
+    case SH_Menu_Mask:
+    case SH_ToolTip_Mask:
+        if (auto* mask = qstyleoption_cast<QStyleHintReturnMask*>(data); mask && option) {
+            mask->region = StyleParts::roundRegion(option->rect);
+            return 1;
+        }
+        return 0;
     case SH_ToolTip_WakeUpDelay:
         return 500;
     default:

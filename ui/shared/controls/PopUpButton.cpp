@@ -10,6 +10,8 @@ namespace tintra {
 namespace {
 
 constexpr int kHeight = 28, kSide = 10, kGap = 8, kChevron = 16, kIcon = 16, kLeast = 48;
+// The drawing of the chevron leaves room at its sides.
+constexpr int kChevronGap = 4, kChevronEnd = 6;
 
 } // namespace
 
@@ -42,7 +44,7 @@ void PopUpButton::openMenu() {
 QSize PopUpButton::sizeHint() const {
     const auto text = QFontMetrics(theme_.font(TextStyle::control)).horizontalAdvance(this->text());
     const auto icon = icon_.empty() ? 0 : kIcon + kGap;
-    return {2 * kSide + icon + text + kGap + kChevron, theme_.scaled(kHeight)};
+    return {kSide + icon + text + kChevronGap + kChevron + kChevronEnd, theme_.scaled(kHeight)};
 }
 
 QSize PopUpButton::minimumSizeHint() const {
@@ -66,7 +68,8 @@ void PopUpButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const auto whole = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    auto ink = theme_.color(isEnabled() ? Token::ink : Token::off);
+    // What has an icon says a state of the window and stands back behind what is chosen often.
+    auto ink = theme_.color(!isEnabled() ? Token::off : icon_.empty() ? Token::ink : Token::ink2);
     if (inverted_) ink = theme_.color(Token::onsel);
     painter.setPen(border_ == Border::yes ? QPen(theme_.color(Token::edge), 1) : QPen(Qt::NoPen));
     painter.setBrush(Qt::NoBrush);
@@ -85,9 +88,9 @@ void PopUpButton::paintEvent(QPaintEvent*) {
                            theme_.icon(icon_, kIcon, ink, ratio));
         left += kIcon + kGap;
     }
-    const QPointF chevron(whole.right() - kSide - kChevron + 2, middle - kChevron / 2.0);
+    const QPointF chevron(rect().right() + 1 - kChevronEnd - kChevron, middle - kChevron / 2.0);
     painter.drawPixmap(chevron, theme_.icon("chevron-down", kChevron, ink, ratio));
-    const auto font = theme_.font(TextStyle::control);
+    const auto font = theme_.font(TextStyle::control, ink);
     painter.setFont(font);
     painter.setPen(ink);
     const QRectF place(left, whole.top(), chevron.x() - left, whole.height());

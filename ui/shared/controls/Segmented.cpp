@@ -11,7 +11,7 @@
 namespace tintra {
 namespace {
 
-constexpr int kHeight = 28, kInset = 2, kSide = 10, kIcon = 20, kIconWidth = 32;
+constexpr int kHeight = 28, kInset = 3, kSide = 10, kIcon = 20, kIconWidth = 32;
 
 } // namespace
 
@@ -67,7 +67,6 @@ void Segmented::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(theme_.color(isEnabled() ? Token::edge : Token::line), 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(whole, metrics::kControlRadius, metrics::kControlRadius);
-    painter.setFont(theme_.font(TextStyle::control));
     for (int i = 0; i < static_cast<int>(choices_.size()); ++i) {
         const auto& choice = choices_[static_cast<std::size_t>(i)];
         const QRectF place = rectOf(i);
@@ -79,6 +78,7 @@ void Segmented::paintEvent(QPaintEvent*) {
         }
         if (i == current_) ink = theme_.color(Token::onsel);
         painter.setPen(ink);
+        painter.setFont(theme_.font(TextStyle::control, ink));
         if (choice.icon.empty())
             painter.drawText(place, Qt::AlignCenter, choice.text);
         else

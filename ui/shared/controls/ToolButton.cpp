@@ -14,7 +14,7 @@ constexpr int kIcon = 20, kSmallIcon = 16, kBadge = 16;
 
 void paintBadge(QPainter& painter, const Theme& theme, const QRectF& button, int count) {
     const auto text = count > 99 ? QStringLiteral("99+") : QString::number(count);
-    painter.setFont(theme.font(TextStyle::caption));
+    painter.setFont(theme.font(TextStyle::caption, theme.color(Token::onsel)));
     const auto width = std::max<qreal>(kBadge, figuresWidth(painter.font(), text) + 8);
     const QRectF place(button.right() - width + 4, button.top() - 1, width, kBadge);
     painter.setPen(QPen(theme.color(Token::panel), 1.5));
@@ -40,6 +40,8 @@ void ToolButton::setIconName(std::string_view icon) {
 
 void ToolButton::setTitle(const QString& title, const QString& key) {
     setAccessibleName(title);
+    // Otherwise the tooltip, which says the title again.
+    setAccessibleDescription(key.isEmpty() ? title : key);
     setToolTip(key.isEmpty() ? title : QStringLiteral("%1 (%2)").arg(title, key));
 }
 

@@ -1,0 +1,21 @@
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <optional>
+
+namespace {
+
+/// The application that every test of this program runs in.
+class Application final : public testing::Environment {
+    void SetUp() override { app_.emplace(count_, arguments_); }
+    void TearDown() override { app_.reset(); }
+
+    int count_ = 1;
+    char name_[6] = "tests";
+    char* arguments_[2] = {name_, nullptr};
+    std::optional<QCoreApplication> app_;
+};
+
+[[maybe_unused]] const auto* kApplication = testing::AddGlobalTestEnvironment(new Application);
+
+} // namespace

@@ -1,0 +1,132 @@
+"""A person at the desktop: mouse, keyboard, clipboard, and files looked at with another program."""
+
+import json
+import subprocess
+
+from desktop import NotSeen, until
+from program import Program
+
+
+class User:
+    def __init__(self, desktop):
+        self.desktop = desktop
+        self.bus = desktop.accessibility_bus()
+
+    def starts(self, *files):
+        """Starts the program and makes it the one that is worked."""
+        self.tintra = Program(self.desktop, self.bus, self.desktop.binaries / "tintra-desktop",
+                              *files)
+        return self.tintra
+
+    def starts_other(self, *offers):
+        return Program(self.desktop, self.bus, self.desktop.binaries / "tintra_other_program",
+                       *offers)
+
+    # Hands
+
+    def xdotool(self, *words):
+        self.desktop.output("xdotool", *[str(word) for word in words])
+
+    def keys(self, *names):
+        self.xdotool("key", "--delay", "8", *names)
+
+    def presses_key_until(self, key, seen, most=20):
+        """As a person does who looks for a thing with Tab."""
+        for _ in range(most):
+            if seen():
+                return
+            self.keys(key)
+        until(f"what {key} leads to", seen)
+
+    def types(self, text):
+        for number, line in enumerate(text.split("\n")):
+            if number:
+                self.keys("Return")
+            if line:
+                self.xdotool("type", "--delay", "8", line)
+
+    def writes(self, text):
+        """Into a field that has the focus, in place of what stands there."""
+        self.keys("ctrl+a")
+        self.types(text)
+
+    @staticmethod
+    def place(thing, across=0.5, down=0.5):
+        """A place on the screen, of a thing or as it is."""
+        if isinstance(thing, tuple):
+            return thing
+        x, y, width, height = until(f"a place for “{thing.name}”",
+                                    lambda: thing.rect if thing.rect[2] > 0 else None)
+        return x + int(width * across), y + int(height * down)
+
+    def clicks(self, thing, button=1, times=1):
+        self.xdotool("mousemove", *self.place(thing), "click", "--repeat", times, "--delay", "40",
+                     button)
+
+    def presses(self, name, role="push button"):
+        self.clicks(self.tintra.sees(role, name))
+
+    def chooses(self, *titles):
+        """Goes through menus, the first of which is open."""
+        for title in titles:
+            self.clicks(self.tintra.sees_menu_item(title))
+
+    def lifts(self, start, end, steps=12):
+        """Presses the button and moves there, without letting go."""
+        (x, y), (to_x, to_y) = self.place(start), self.place(end)
+        words = ["mousemove", x, y, "mousedown", 1]
+        for step in range(1, steps + 1):
+            words += ["mousemove", x + (to_x - x) * step // steps, y + (to_y - y) * step // steps,
+                      "sleep", 0.01]
+        self.xdotool(*words)
+
+    def lets_go(self):
+        self.xdotool("mouseup", 1)
+
+    def drags(self, start, end):
+        self.lifts(start, end)
+        self.lets_go()
+
+    # Clipboard and files
+
+    def copies(self, text, kind="UTF8_STRING"):
+        """Puts text on the clipboard, as another program does."""
+        subprocess.run(["xclip", "-selection", "clipboard", "-t", kind], input=text.encode(),
+                       env=self.desktop.environment, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL, check=True)
+        until("what was copied on the clipboard", lambda: self.clipboard(kind) == text)
+
+    def clipboard(self, kind="UTF8_STRING"):
+        return self.desktop.output("xclip", "-o", "-selection", "clipboard", "-t", kind,
+                                   check=False)
+
+    def finds_copied(self, text):
+        until(lambda: f"“{text}” on the clipboard; it holds “{self.clipboard()}”",
+              lambda: self.clipboard() == text)
+
+    def record(self, name):
+        """What the program has written down for its next start; none yet: nothing."""
+        for folder in ("state", "config"):
+            path = self.desktop.root / folder / "tintra" / f"{name}.json"
+            if path.exists():
+                return json.loads(path.read_text())
+        return {}
+
+    def colours(self):
+        """Of the palette, as they are written down."""
+        return ["#" + "".join(f"{round(swatch[part] * 255):02x}" for part in "rgb")
+                for swatch in self.record("TintraWorkspace").get("customPalette", [])]
+
+    def finds_colours(self, colours):
+        until(lambda: f"{colours}; written down are {self.colours()}", lambda: self.colours() == colours)
+
+    def reads(self, file):
+        """The swatches of a palette file, by the command: (code, name)."""
+        read = json.loads(self.desktop.output(str(self.desktop.binaries / "tintra"), "read",
+                                              "--json", str(file)))
+        return [(swatch["hex"].lower(), swatch["name"]) for swatch in read[0]["swatches"]]
+
+
+def agree(found, wanted, what):
+    if found != wanted:
+        raise NotSeen(f"{what}: {found!r} instead of {wanted!r}")
