@@ -41,7 +41,7 @@ inline bool isBuilder(const Context& context) {
 }
 /// What is asked for cannot be seen in a collapsed window.
 inline void unfold(const Context& context) {
-    if (context.palette && state(context).isCollapsed) state(context).toggleCollapsed();
+    if (state(context).isCollapsed) state(context).toggleCollapsed();
 }
 inline bool hasTarget(const Context& context) {
     return context.window->target().has_value();

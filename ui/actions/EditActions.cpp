@@ -77,7 +77,7 @@ const ActionRow kRows[] = {
      .menu = MenuId::edit,
      .perform =
          [](const Context& c) {
-             unfold(c);
+             if (c.palette) unfold(c);
              c.window->showPasteSheet();
          }},
     {.value = ActionId::clear,

@@ -174,6 +174,10 @@ void fillMenuBar(QMenuBar& bar, WindowKind kind, const ContextOf& context) {
             fillWhenOpened(*bar.addMenu(u'&' + worded(menu.title)), menu.id, context);
 }
 
+bool hasMenu(WindowKind kind, MenuId id) {
+    return id != MenuId::none && menuOf(id).in.contains(kind);
+}
+
 void fillMoreMenu(QMenu& menu, const ContextOf& context) {
     const auto kind = context().window->kind();
     for (const auto& one : kMenus)

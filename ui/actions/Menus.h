@@ -17,6 +17,7 @@ using ContextOf = std::function<ActionContext()>;
 
 /// The menus that a window of that kind has, each filled when it opens. The caller owns the bar.
 void fillMenuBar(QMenuBar& bar, WindowKind kind, const ContextOf& context);
+bool hasMenu(WindowKind kind, MenuId id);
 /// The same menus as submenus, for the More button.
 void fillMoreMenu(QMenu& menu, const ContextOf& context);
 /// The rows of one menu that the window has.

@@ -93,7 +93,7 @@ void BenchCanvas::subscribe() {
     subscriptions_.add(bench_.vision, [this] { update(); });
     subscriptions_.add(preferences.format, again);
     subscriptions_.add(preferences.formatOptions, again);
-    subscriptions_.add(preferences.rgbProfile, again);
+    subscriptions_.add(preferences.profilesVersion, again);
     subscriptions_.add(theme().version(), again);
 }
 

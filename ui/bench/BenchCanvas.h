@@ -52,6 +52,7 @@ protected:
     void focusMoved(int item) override;
     void hoverMoved(int item, QPointF place) override;
     int neighbour(int from, Qt::Key key) const override;
+    bool activates(const CanvasItem& item) const override { return item.kind != figure; }
     int overhang() const override { return 8; }
 
     void resizeEvent(QResizeEvent* event) override;

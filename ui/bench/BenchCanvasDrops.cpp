@@ -6,9 +6,9 @@
 #include "state/Models.h"
 #include "state/NoticeTexts.h"
 #include "ui/bench/BenchCanvas.h"
+#include "ui/shared/ColourDrag.h"
 #include "ui/shared/Text.h"
 
-#include <QDrag>
 #include <QDropEvent>
 
 namespace tintra {
@@ -33,15 +33,11 @@ void BenchCanvas::startDrag(int item) {
         dragged = {*color, std::nullopt, DragOfWell{}};
     }
     card.leftBehind = false;
-    QDrag drag(this);
-    drag.setMimeData(mimeOf(dragged, card.code).release());
-    drag.setPixmap(ui_.painter.card(card, {128, 96}, false, devicePixelRatioF()));
-    drag.setHotSpot({30, 30});
     const QPointer<BenchCanvas> self(this);
     if (active->kind == BenchSelection::Of::column && !bench_.isReorderingPaused())
         bench_.draggingBenchColumn = active->id;
     update();
-    drag.exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
+    dragColour(*this, ui_.painter, dragged, card, kDragCard);
     // The window may have been closed in the middle of the drag.
     if (!self) return;
     bench_.draggingBenchColumn = std::nullopt;

@@ -72,7 +72,7 @@ void WellEditor::subscribe() {
     subscriptions_.add(bench_.vision, again);
     subscriptions_.add(preferences.format, again);
     subscriptions_.add(preferences.formatOptions, again);
-    subscriptions_.add(preferences.rgbProfile, again);
+    subscriptions_.add(preferences.profilesVersion, again);
     subscriptions_.add(ui_.theme.version(), [this] { restyle(); });
 }
 

@@ -110,8 +110,6 @@ void MainWindow::toggleMenuBar() {
 }
 
 void MainWindow::openMenuBar() {
-    // Where the bar is put away with all but a strip, there is no room for it.
-    if (menuBar_->parentWidget()->isHidden()) return showContextMenu();
     menuBar_->call();
 }
 

@@ -68,7 +68,7 @@ public:
     bool showsMenuBar() const;
     void toggleMenuBar();
     /// Gives the keyboard to the menu bar, shown until it is done with.
-    void openMenuBar();
+    virtual void openMenuBar();
     /// Gives the keyboard to the next (1) or the previous (-1) region.
     void focusRegion(int by);
     void showContextMenu();

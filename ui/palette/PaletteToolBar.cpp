@@ -44,7 +44,7 @@ void PaletteToolBar::subscribe() {
     subscriptions_.add(state_.customPaletteVersion(), again);
     subscriptions_.add(state_.editorBuffer, [this] {
         // Every step of a slider comes here.
-        if (editor_->isChecked() != state_.editorBuffer.value().has_value()) sync();
+        if (editor_->isChecked() != state_.editorBuffer.value().has_value()) syncAll();
     });
     subscriptions_.add(state_.isPictureWindowOpen, again);
     subscriptions_.add(state_.attachment(), again);

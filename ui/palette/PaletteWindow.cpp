@@ -77,13 +77,6 @@ void PaletteWindow::assemble() {
     connectBody();
 }
 
-void PaletteWindow::popUp(QPoint at, void (*fill)(QMenu&, const ActionContext&)) {
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    fill(*menu, context());
-    menu->popup(at);
-}
-
 void PaletteWindow::connectBody() {
     auto& body = *parts_->body;
     body.targetChanged = [this] { parts_->foot->sync(); };
@@ -221,6 +214,12 @@ void PaletteWindow::beginRename() {
 
 void PaletteWindow::setPeeking(bool peeks) {
     parts_->body->swatches().setPeeking(peeks);
+}
+
+void PaletteWindow::openMenuBar() {
+    // A strip has no room for a bar.
+    if (parts_->isFolded) return showContextMenu();
+    MainWindow::openMenuBar();
 }
 
 std::vector<QWidget*> PaletteWindow::regions() const {

@@ -35,6 +35,7 @@ public:
     void showExport();
     void beginRename();
     void setPeeking(bool peeks);
+    void openMenuBar() override;
     /// What is being typed counts as typed: before the window is asked about changes.
     void finishTyping();
     /// Closes without asking; the model is gone after this.

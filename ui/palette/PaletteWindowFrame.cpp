@@ -2,6 +2,7 @@
 // on it as a whole.
 
 #include "state/Models.h"
+#include "ui/actions/Menus.h"
 #include "ui/frame/WindowFrame.h"
 #include "ui/palette/FileDrops.h"
 #include "ui/palette/PaletteWindowParts.h"
@@ -9,6 +10,7 @@
 #include "ui/shared/ColourMime.h"
 
 #include <QDropEvent>
+#include <QMenu>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>

@@ -200,9 +200,8 @@ Window& Application::only(QPointer<Window>& window) {
     if (!window) {
         window = new Window(ui_);
         window->setAttribute(Qt::WA_DeleteOnClose);
-        // What only helps with the work does not keep the program running.
-        if constexpr (!std::is_base_of_v<MainWindow, Window>)
-            window->setAttribute(Qt::WA_QuitOnClose, false);
+        // Settings and help do not keep the program running.
+        window->setAttribute(Qt::WA_QuitOnClose, std::is_base_of_v<MainWindow, Window>);
     }
     return *window;
 }

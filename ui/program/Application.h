@@ -58,12 +58,12 @@ public:
 private:
     void applyTheme();
     void connectModels();
-    bool isOnlyWindow(const QWidget* window) const;
-    /// Ends the program without a question: everything is kept and comes back.
-    void leave();
     void connectNotices();
     /// The main window of a place; none while it is closed.
     MainWindow* mainWindow(const ToastPlace& place) const;
+    bool isOnlyWindow(const QWidget* window) const;
+    /// Ends the program without a question: everything is kept and comes back.
+    void leave();
     /// The one window of its kind, made when it is not open.
     template <class Window>
     Window& only(QPointer<Window>& window);
