@@ -45,7 +45,8 @@ LibraryLayout::LibraryLayout(const Theme& theme, const LibraryModel& model, bool
     }
     for (std::size_t i = 0; i < listing.sections.size(); ++i)
         addSection(model, i);
-    height_ += theme.scaled(kPanelGap);
+    // A note that stands alone fills the view.
+    if (lines_.back().kind != LibraryLine::Kind::note) height_ += theme.scaled(kPanelGap);
 }
 
 void LibraryLayout::add(LibraryLine line) {
