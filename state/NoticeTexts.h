@@ -42,6 +42,8 @@ inline constexpr std::string_view kMoveRefusalText =
 std::string addedToBenchText(const WashColor& color);
 std::string stagedCopyText(const WashColor& color);
 std::string tookOffBenchText(const WashColor& color);
+/// Of colours that were put on the Bench together.
+std::string benchBatchText(std::size_t added, std::size_t already);
 /// `origin` as the Bench describes it.
 std::string alreadyOnBenchText(const WashColor& color, std::string_view origin);
 

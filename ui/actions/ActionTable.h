@@ -68,6 +68,15 @@ enum class ActionId {
     sendToIllustrator,
     removeSwatch,
     // Bench
+    benchMix,
+    benchMixWith,
+    benchKeep,
+    benchAdjust,
+    benchAddToPalette,
+    benchRename,
+    benchMoveLeft,
+    benchMoveRight,
+    benchTakeOff,
     // Contrast
     showPair,
     showMatrix,

@@ -1,5 +1,6 @@
 #include "ui/actions/Menus.h"
 
+#include "state/Models.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/shared/Text.h"
 
@@ -52,6 +53,17 @@ constexpr MenuRow kContrast[] = {
 constexpr MenuRow kContrastEntry[] = {
     useAsText, useAsGround, kLine,       copy,          copyAs, addEntryToPalette, putEntryOnBench,
     kLine,     renameEntry, moveEntryUp, moveEntryDown, kLine,  removeEntry};
+constexpr MenuRow kBench[] = {benchMix,       benchMixWith,   benchAdjust,       benchKeep,
+                              kLine,          sendToContrast, sendAsText,        sendAsGround,
+                              kLine,          benchRename,    benchAddToPalette, benchMoveLeft,
+                              benchMoveRight, kLine,          benchTakeOff};
+constexpr MenuRow kBenchColumn[] = {
+    copy,           copyAs,         kLine,        benchMix,    benchMixWith,      kLine,
+    sendToContrast, sendAsText,     sendAsGround, kLine,       benchAddToPalette, benchRename,
+    benchMoveLeft,  benchMoveRight, kLine,        benchTakeOff};
+constexpr MenuRow kBenchWell[] = {benchKeep, benchAdjust,       kLine, copy,
+                                  copyAs,    benchAddToPalette, kLine, benchTakeOff};
+constexpr MenuRow kBenchCanvas[] = {pasteColours, typeOrPaste, kLine, clear};
 constexpr MenuRow kView[] = {columns, tiles,      kLine, colourEditor, picturePane, kLine,
                              vision,  codeFormat, kLine, collapse,     alwaysOnTop, showMenuBar};
 constexpr MenuRow kWindow[] = {openLibrary, openBench, openContrast};
@@ -69,7 +81,7 @@ const std::array kMenus{
     MenuOfBar{MenuId::edit, "Edit", kEdit},
     MenuOfBar{MenuId::palette, "Palette", kPalette, WindowKind::palette},
     MenuOfBar{MenuId::swatch, "Swatch", kSwatch, WindowKind::palette},
-    MenuOfBar{MenuId::bench, "Bench", {}, WindowKind::bench},
+    MenuOfBar{MenuId::bench, "Bench", kBench, WindowKind::bench},
     MenuOfBar{MenuId::contrast, "Contrast", kContrast, WindowKind::contrast},
     MenuOfBar{MenuId::library, "Library", {}, WindowKind::library},
     MenuOfBar{MenuId::view, "View", kView},
@@ -153,6 +165,15 @@ void fillMoreMenu(QMenu& menu, const ContextOf& context) {
 
 void fillSwatchMenu(QMenu& menu, const ActionContext& context) {
     addRows(menu, kSwatch, context);
+}
+
+void fillBenchMenu(QMenu& menu, bool onItem, const ActionContext& context) {
+    const auto active = context.ui.models.bench().benchActive.value();
+    const bool isWell = active && active->kind == BenchSelection::Of::well;
+    if (!onItem)
+        addRows(menu, kBenchCanvas, context);
+    else
+        addRows(menu, isWell ? std::span<const MenuRow>(kBenchWell) : kBenchColumn, context);
 }
 
 void fillCanvasMenu(QMenu& menu, const ActionContext& context) {

@@ -24,6 +24,8 @@ void fillMenu(QMenu& menu, MenuId id, const ActionContext& context);
 
 /// The context menu of a swatch or of a colour of a harmony.
 void fillSwatchMenu(QMenu& menu, const ActionContext& context);
+/// The context menu of what is active on the Bench, or of the Bench itself.
+void fillBenchMenu(QMenu& menu, bool onItem, const ActionContext& context);
 /// The context menu of an empty place of a palette's canvas.
 void fillCanvasMenu(QMenu& menu, const ActionContext& context);
 

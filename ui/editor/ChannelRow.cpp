@@ -32,8 +32,8 @@ int stepsOf(const QKeyEvent& event) {
 
 } // namespace
 
-ChannelRow::ChannelRow(Theme& theme, QWidget* parent, int letter)
-    : QWidget(parent), theme_(theme), letter_(letter), track_(new ChannelTrack(theme, this)),
+ChannelRow::ChannelRow(Theme& theme, QWidget* parent, int words)
+    : QWidget(parent), theme_(theme), words_(words), track_(new ChannelTrack(theme, this)),
       field_(new QLineEdit(this)) {
     field_->setAlignment(Qt::AlignRight);
     field_->setMaxLength(12);
@@ -110,13 +110,13 @@ void ChannelRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setFont(theme_.font(TextStyle::body));
     painter.setPen(theme_.color(Token::ink2));
-    painter.drawText(QRect(0, 0, theme_.scaled(letter_), height()),
-                     Qt::AlignLeft | Qt::AlignVCenter, fromUtf8(channel_->letter));
+    painter.drawText(QRect(0, 0, theme_.scaled(words_), height()), Qt::AlignLeft | Qt::AlignVCenter,
+                     fromUtf8(channel_->letter));
 }
 
 void ChannelRow::resizeEvent(QResizeEvent*) {
     const auto side = theme_.scaled(ChannelTrack::kSide);
-    const auto left = theme_.scaled(letter_) - side;
+    const auto left = theme_.scaled(words_) - side;
     const auto field = width() - theme_.scaled(kField);
     track_->setGeometry(left, 0, field - theme_.scaled(kGap) + side - left, height());
     field_->setGeometry(field, 0, theme_.scaled(kField), height());

@@ -12,10 +12,11 @@ namespace tintra {
 /// once; the field shows them anew, fitted, when it is left.
 class ChannelRow final : public QWidget {
 public:
-    static constexpr int kHeight = ChannelTrack::kHeight; ///< px at regular text size
+    // px at regular text size
+    static constexpr int kHeight = ChannelTrack::kHeight, kLetter = 24;
 
-    /// `letter` px at regular text size are kept for the letter, or a word in its place.
-    explicit ChannelRow(Theme& theme, QWidget* parent, int letter = 24);
+    /// `words` px at regular text size for what stands before the track.
+    ChannelRow(Theme& theme, QWidget* parent, int words = kLetter);
 
     void setChannel(const EditorChannel& channel);
     void setValue(double value);
@@ -28,6 +29,9 @@ public:
     void dropTyped();
     /// After the theme has changed.
     void restyle();
+
+    /// Gives the keyboard to the track.
+    void focusTrack() { track_->setFocus(Qt::ShortcutFocusReason); }
 
     std::function<void(double)> changed;
     std::function<void()> settled;
@@ -42,7 +46,7 @@ private:
     void leaveField();
 
     Theme& theme_;
-    const int letter_;
+    const int words_;
     const EditorChannel* channel_ = &kAlphaChannel;
     double value_ = 0;
     ChannelTrack* track_;

@@ -78,6 +78,19 @@ void Canvas::markSelected(int item) {
     }
 }
 
+void Canvas::replaceItem(int item, CanvasItem now) {
+    if (item < 0 || item >= static_cast<int>(items_.size())) return;
+    repaintItem(item);
+    auto& held = items_[static_cast<std::size_t>(item)];
+    const bool tells = held.value != now.value || held.name != now.name;
+    held = std::move(now);
+    repaintItem(item);
+    if (!tells || !QAccessible::isActive()) return;
+    QAccessibleEvent event(this, QAccessible::NameChanged);
+    event.setChild(item);
+    QAccessible::updateAccessibility(&event);
+}
+
 bool Canvas::showsFocus() const {
     return hasFocus() && (focusByKeyboard_ || theme_.isHighContrast());
 }

@@ -77,6 +77,8 @@ protected:
     virtual void hoverMoved(int /*item*/, QPointF /*place*/) {}
     /// Makes one item the selected one (-1: none), without laying out anew.
     void markSelected(int item);
+    /// Puts what has changed of one item in its place, and repaints it where it was and is.
+    void replaceItem(int item, CanvasItem now);
     /// How far beyond its rectangle an item paints, px.
     virtual int overhang() const { return 6; }
 
