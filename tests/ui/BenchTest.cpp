@@ -15,6 +15,7 @@
 
 #include <QLineEdit>
 #include <QPaintEvent>
+#include <QPushButton>
 #include <QUrl>
 #include <functional>
 
@@ -240,7 +241,7 @@ TEST(BenchWindowTest, TakesWhatTheDragMatrixSays) {
         }
     }
     QMimeData text, file;
-    text.setText(QStringLiteral("#101010 #202020"));
+    text.setText(QStringLiteral("#101010\n#202020"));
     EXPECT_TRUE(drop(on.canvas, {5, 5}, text).taken);
     EXPECT_THAT(on.desk.notices(), ElementsAre("Added 2 to the Bench"));
     file.setUrls({QUrl::fromLocalFile(QStringLiteral("/a.gpl"))});
@@ -278,7 +279,8 @@ TEST(BenchWindowTest, IsWorkedWithTheMouse) {
     ASSERT_TRUE(ratio && ratio->valueInterface());
     ratio->valueInterface()->setCurrentValue(62);
     EXPECT_NEAR(on.bench.benchWells()[0].ratio, 0.62, 1e-9);
-    EXPECT_TRUE(doDefault(accessible(*editor, "Keep the Mix as a Colour")));
+    auto& keep = *child<QPushButton>(*editor);
+    click(keep, QRectF(keep.rect()).center());
     EXPECT_EQ(on.active(), 4U);
     EXPECT_FALSE(editor->isVisible());
     const auto column = on.canvas.items()[2].rect;

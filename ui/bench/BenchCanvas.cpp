@@ -5,7 +5,8 @@
 #include "platform/MainLoop.h"
 #include "platform/Services.h"
 #include "state/Models.h"
-#include "ui/shared/NameField.h"
+#include "ui/actions/ActionTable.h"
+#include "ui/shared/PlacedField.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
@@ -212,6 +213,7 @@ std::vector<CanvasItem> BenchCanvas::emptyItems(QSizeF size) const {
     y += kActionGap;
     add(beginning, action, "Type or paste values");
     items.back().role = QAccessible::Button;
+    items.back().description = keyText(actionRow(ActionId::typeOrPaste));
     return items;
 }
 
@@ -303,8 +305,8 @@ void BenchCanvas::beginRename() {
     const auto middle =
         stand_.shape == SwatchShape::onSide ? one.rect.bottom() - 60 : words.center().y();
     field_ =
-        new NameField(*this, QRectF(left, middle - high / 2, wide, high).toRect(),
-                      of.keptName ? fromUtf8(*of.keptName) : QString(), oneLine(bench_.name(of)));
+        new PlacedField(*this, QRectF(left, middle - high / 2, wide, high).toRect(),
+                        of.keptName ? fromUtf8(*of.keptName) : QString(), oneLine(bench_.name(of)));
     field_->setAccessibleName(worded("Name of the colour"));
     field_->kept = [this, id = of.id](const QString& name) {
         renameOnBench(ui_.models, id, toUtf8(name));

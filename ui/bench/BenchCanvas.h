@@ -17,7 +17,7 @@
 namespace tintra {
 
 class DelayedTask;
-class NameField;
+class PlacedField;
 
 /// The columns of the Bench, the figures between them and the wells over them; while there are
 /// none, what to begin with.
@@ -122,7 +122,7 @@ private:
     bool isOffered_ = false;               ///< a colour or text is dragged over it
     std::optional<BenchSelection> flashing_;
     std::unique_ptr<DelayedTask> flash_;
-    QPointer<NameField> field_;
+    QPointer<PlacedField> field_;
     Subscriptions subscriptions_;
 };
 

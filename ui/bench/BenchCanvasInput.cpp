@@ -2,7 +2,7 @@
 
 #include "state/Models.h"
 #include "ui/bench/BenchCanvas.h"
-#include "ui/shared/NameField.h"
+#include "ui/shared/PlacedField.h"
 #include "ui/shared/Text.h"
 
 #include <QApplication>

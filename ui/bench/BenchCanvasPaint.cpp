@@ -6,7 +6,7 @@
 #include "ui/shared/Beginning.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Figures.h"
-#include "ui/shared/NameField.h"
+#include "ui/shared/PlacedField.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 

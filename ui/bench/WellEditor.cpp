@@ -5,6 +5,7 @@
 #include "ui/bench/RampStrip.h"
 #include "ui/editor/ChannelRow.h"
 #include "ui/editor/EditorSpaces.h"
+#include "ui/shared/StyleParts.h"
 #include "ui/shared/SwatchPainter.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
@@ -183,7 +184,9 @@ void WellEditor::resizeEvent(QResizeEvent*) {
                        theme.scaled(kRampHeight));
     auto top = kSide;
     for (auto* button : {keep_, copy_, remove_}) {
-        button->setGeometry(buttons, top, theme.scaled(kButtonsWidth), theme.scaled(kButton));
+        // A button keeps room for its ring around what is painted of it.
+        button->setGeometry(QRect(buttons, top, theme.scaled(kButtonsWidth), theme.scaled(kButton))
+                                .marginsAdded(StyleParts::kRingRoom));
         top += theme.scaled(kButton) + kButtonGap;
     }
 }
