@@ -279,7 +279,7 @@ TEST(BenchWindowTest, IsWorkedWithTheMouse) {
     ASSERT_TRUE(ratio && ratio->valueInterface());
     ratio->valueInterface()->setCurrentValue(62);
     EXPECT_NEAR(on.bench.benchWells()[0].ratio, 0.62, 1e-9);
-    auto& keep = *child<QPushButton>(*editor);
+    auto& keep = *qobject_cast<QWidget*>(accessible(*editor, "Keep the Mix as a Colour")->object());
     click(keep, QRectF(keep.rect()).center());
     EXPECT_EQ(on.active(), 4U);
     EXPECT_FALSE(editor->isVisible());
