@@ -304,17 +304,15 @@ void BenchCanvas::beginRename() {
     const qreal high = theme().scaled(28);
     const auto middle =
         stand_.shape == SwatchShape::onSide ? one.rect.bottom() - 60 : words.center().y();
-    field_ =
-        new PlacedField(*this, QRectF(left, middle - high / 2, wide, high).toRect(),
-                        of.keptName ? fromUtf8(*of.keptName) : QString(), oneLine(bench_.name(of)));
+    field_ = new PlacedField(of.keptName ? fromUtf8(*of.keptName) : QString(),
+                             QRectF(left, middle - high / 2, wide, high).toRect(), this);
+    field_->setFont(theme().font(TextStyle::name));
+    field_->setPlaceholderText(oneLine(bench_.name(of)));
     field_->setAccessibleName(worded("Name of the colour"));
     field_->kept = [this, id = of.id](const QString& name) {
         renameOnBench(ui_.models, id, toUtf8(name));
     };
-    field_->gone = [this] {
-        field_ = nullptr;
-        update();
-    };
+    connect(field_, &QObject::destroyed, this, [this] { update(); });
     repaintItem(item);
 }
 
