@@ -37,8 +37,8 @@ struct LibraryDesk : Desk {
     }
     static void date(const std::filesystem::path& file, int daysAgo) {
         using namespace std::chrono;
-        std::filesystem::last_write_time(file, std::filesystem::file_time_type(1'700'000'000s) -
-                                                   hours(24 * daysAgo));
+        const sys_seconds day(1'700'000'000s - hours(24 * daysAgo));
+        std::filesystem::last_write_time(file, file_clock::from_sys(day));
     }
     void watch(const std::string& name) {
         auto locations = models.preferences().paletteLocations.value();

@@ -5,6 +5,7 @@
 #include "ui/contrast/FacePicker.h"
 #include "ui/contrast/SpecimenFace.h"
 #include "ui/shared/Controls.h"
+#include "ui/shared/StyleParts.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
@@ -117,9 +118,9 @@ void SpecimenBar::layOut() {
         swap = theme.scaled(36);
     }
     // A button keeps room for its ring around what is painted of it.
-    constexpr int kRing = 4;
+    const auto ring = StyleParts::kRingRoom.right();
     const auto button = swap_->sizeHint().height();
-    swap_->setGeometry(width() - kInset + kRing - swap, (height() - button) / 2, swap, button);
+    swap_->setGeometry(width() - kInset + ring - swap, (height() - button) / 2, swap, button);
     notePlace_ = QRect(left, 0, std::max(0, swap_->x() - kGap - left), height());
     setToolTip(note_);
     update();

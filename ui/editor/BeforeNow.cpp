@@ -44,11 +44,11 @@ void BeforeNow::paintEvent(QPaintEvent*) {
     painter_.fill(painter, left, before_, vision_, {kRadius, 0, 0, kRadius});
     painter_.fill(painter, right, now_, vision_, {0, kRadius, kRadius, 0});
     painter_.hairline(painter, rect(), kRadius);
-    painter.setFont(theme_.font(TextStyle::caption));
     const auto write = [&](const QRectF& in, const WashColor& on, Qt::Alignment side,
                            const QString& word) {
         auto place = in.adjusted(kInset, 0, -kInset, 0);
         const auto ink = painter_.foreground(on, vision_);
+        painter.setFont(theme_.font(TextStyle::caption, ink));
         if (!on.isOpaque()) {
             // Words never stand on the backdrop's pattern.
             const auto wide = painter.fontMetrics().horizontalAdvance(word) + 12.0;

@@ -136,7 +136,7 @@ void LibraryCanvas::addLine(std::vector<CanvasItem>& items, std::size_t at) cons
     case LibraryLine::Kind::note:
         break;
     }
-    const auto note = LibraryLayout::noteOf(model_, line);
+    const auto note = noteOf(model_, line);
     const QRectF whole(0, line.top, width(), line.height);
     items.push_back({.rect = inView(whole),
                      .kind = panel,
@@ -270,8 +270,7 @@ void LibraryCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemSta
         if (item.role == QAccessible::NoRole)
             painter_.panel(painter, panelOf(findOf(item.index)));
         else
-            painter_.note(painter, item.rect,
-                          LibraryLayout::noteOf(model_, layout_.lines()[item.index]),
+            painter_.note(painter, item.rect, noteOf(model_, layout_.lines()[item.index]),
                           layout_.sides().left);
         return;
     case swatch: {

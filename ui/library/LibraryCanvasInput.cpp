@@ -83,7 +83,7 @@ std::optional<LibraryCanvas::Place> LibraryCanvas::placeOnLine(std::size_t at, q
     case LibraryLine::Kind::header:
         return Place{header, line.section};
     case LibraryLine::Kind::note:
-        if (LibraryLayout::noteOf(model_, line).action.isEmpty()) return std::nullopt;
+        if (noteOf(model_, line).action.isEmpty()) return std::nullopt;
         return Place{noteAction, at};
     case LibraryLine::Kind::palette:
     case LibraryLine::Kind::tiles:
@@ -301,7 +301,7 @@ void LibraryCanvas::click(const CanvasItem& item) {
     if (line.section < listing.sections.size())
         if (const auto& of = listing.groupOf(listing.sections[line.section]).location)
             location = of->id;
-    answer(LibraryLayout::noteOf(model_, line).about, location);
+    answer(noteOf(model_, line).about, location);
 }
 
 void LibraryCanvas::mousePressEvent(QMouseEvent* event) {

@@ -1,13 +1,9 @@
 #include "ui/library/LibraryLayout.h"
 
-#include "state/SaveTexts.h"
-#include "ui/shared/Text.h"
+#include "ui/library/LibraryPanel.h"
 #include "ui/shared/Theme.h"
 
 #include <algorithm>
-#include <string_view>
-#include <unordered_set>
-#include <utility>
 
 namespace tintra {
 namespace {
@@ -49,7 +45,8 @@ LibraryLayout::LibraryLayout(const Theme& theme, const LibraryModel& model, bool
     }
     for (std::size_t i = 0; i < listing.sections.size(); ++i)
         addSection(model, i);
-    height_ += theme.scaled(kPanelGap);
+    // A note that stands alone fills the view.
+    if (lines_.back().kind != LibraryLine::Kind::note) height_ += theme.scaled(kPanelGap);
 }
 
 void LibraryLayout::add(LibraryLine line) {
@@ -150,65 +147,6 @@ QRectF LibraryLayout::headerRect(const LibraryLine& line) const {
     const auto high = theme_->scaled(kHeaderHigh);
     const auto middle = line.top + theme_->scaled(kHeaderMiddle);
     return {sides_.left - 8, middle - high / 2.0, sides_.right - sides_.left + 16, qreal(high)};
-}
-
-namespace {
-
-QString titleOf(ColourMatch match) {
-    switch (match) {
-    case ColourMatch::exact:
-        return worded("Exact");
-    case ColourMatch::close:
-        return worded("Close");
-    case ColourMatch::hue:
-        return worded("Same Hue");
-    }
-    return {};
-}
-
-LibraryNote noteOfNothing(const LibraryModel& model) {
-    const auto& listing = model.listing();
-    const auto text = oneLine(model.text().value(), 60);
-    LibraryNote note{
-        .about = LibraryNote::About::nothingFound, .title = {}, .text = {}, .action = {}};
-    if (!listing.color) {
-        note.title = worded("Nothing is called “%1”").arg(text);
-        note.text = worded("No palette and no swatch has that in its name.");
-        return note;
-    }
-    note.title = worded("Nothing holds %1").arg(text);
-    note.text = shown(explanation(model.match()));
-    if (const auto& wider = listing.wider) {
-        const auto finds = worded("%1 finds it in %n palette.", "%1 finds it in %n palettes.",
-                                  static_cast<qsizetype>(wider->count));
-        note.text += QStringLiteral(". ") + finds.arg(titleOf(wider->match));
-        note.action = worded("Look by %1").arg(titleOf(wider->match));
-    }
-    return note;
-}
-
-} // namespace
-
-LibraryNote LibraryLayout::noteOf(const LibraryModel& model, const LibraryLine& line) {
-    using enum LibraryNote::About;
-    const auto& listing = model.listing();
-    if (listing.sections.empty() && listing.isSearch) return noteOfNothing(model);
-    if (listing.sections.empty())
-        return {noFolders, worded("No folders yet."),
-                worded("Add one and its palettes appear in the Library and the Palette menu."),
-                worded("Add a Folder…")};
-    const bool isAlone = listing.sections.size() == 1;
-    const auto& group = listing.groupOf(listing.sections[line.section]);
-    if (!group.isOnline)
-        return {offline, isAlone ? worded("The folder is not there") : QString(),
-                shown(SaveTexts::chooseAgainText(group.location->nickname)),
-                worded("Choose Again…")};
-    if (!isAlone) return {noPalettes, {}, worded("No palettes found"), {}};
-    return {noPalettes,
-            worded("No palettes found"),
-            worded("Other applications open these as palettes. Save into a watched folder and it "
-                   "appears in the Library."),
-            {}};
 }
 
 } // namespace tintra

@@ -28,13 +28,6 @@ struct LibraryLine {
     bool isUnfolded = false;
 };
 
-/// What is said where there is no palette, and the button that it offers.
-struct LibraryNote {
-    enum class About { noFolders, noPalettes, offline, nothingFound };
-    About about = About::noFolders;
-    QString title, text, action; ///< no title for one line among others; no action for none
-};
-
 /// Where everything of the Library stands, line by line: computed for all lines at once, in time
 /// linear in their number, and asked for those in view. Lengths are px of the whole, of which the
 /// window shows a part.
@@ -64,9 +57,6 @@ public:
     };
     const Sides& sides() const { return sides_; }
 
-    /// The note that stands on a line.
-    static LibraryNote noteOf(const LibraryModel& model, const LibraryLine& line);
-
 private:
     struct FirstLines {
         std::size_t header = 0, palettes = 0;
@@ -84,46 +74,6 @@ private:
     std::vector<LibraryLine> lines_;
     std::vector<FirstLines> firstLines_;
     qreal height_ = 0;
-};
-
-/// What stands in an unfolded row: its swatches and what can be done with the palette.
-class LibraryPanel {
-public:
-    /// What can be done, in order; those from `duplicate` on stand at the right.
-    enum Action { open, openInNewWindow, install, installFor, duplicate, reveal, trash };
-    struct Button {
-        Action action;
-        QRectF rect;
-        QString title;
-    };
-    /// More swatches than this are not shown one by one.
-    static constexpr std::size_t kMost = 512;
-
-    /// At a place of that width; `rect` then has the height that it takes. `installsFor`: there are
-    /// drawing programs to install for.
-    LibraryPanel(const Theme& theme, const LibraryPalette& palette, bool installsFor,
-                 QPointF topLeft, qreal width);
-
-    const QRectF& rect() const { return rect_; }
-    /// Each with the room for its words, unless they are small.
-    const std::vector<QRectF>& swatches() const { return swatches_; }
-    /// Whether the swatches of a palette of so many stand close together, without words.
-    static bool isSmall(std::size_t count);
-    const std::vector<Button>& buttons() const { return buttons_; }
-    /// Where it says how many swatches are not shown; empty for none.
-    const QRectF& rest() const { return rest_; }
-    std::size_t hidden() const { return hidden_; }
-    /// How high a swatch is painted.
-    static qreal swatchHeight(const Theme& theme);
-
-private:
-    qreal addSwatches(const Theme& theme, std::size_t count);
-    qreal addButtons(const Theme& theme, const LibraryPalette& palette, bool installsFor, qreal y);
-
-    QRectF rect_, rest_;
-    std::vector<QRectF> swatches_;
-    std::vector<Button> buttons_;
-    std::size_t hidden_ = 0;
 };
 
 } // namespace tintra

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "ui/library/LibraryLayout.h"
+#include "ui/library/LibraryNote.h"
+#include "ui/library/LibraryPanel.h"
 #include "ui/shared/Theme.h"
 
 #include <QPainter>

@@ -1,4 +1,5 @@
-#include "ui/library/LibraryLayout.h"
+#include "ui/library/LibraryPanel.h"
+
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 

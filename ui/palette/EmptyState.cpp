@@ -76,8 +76,10 @@ std::vector<CanvasItem> EmptyState::layoutItems(QSizeF size) const {
     const auto width = std::max<qreal>(1, size.width() - 2 * kMargin);
     const auto count = static_cast<int>(kBeginnings.size());
     // The quotation gets what the actions leave.
-    const auto row = std::clamp(static_cast<int>(size.height() - 2 * kMargin) / count,
-                                theme().scaled(kLowestAction), theme().scaled(kAction));
+    const auto lowest = std::clamp(static_cast<int>(size.height()) / count, kLowestAction,
+                                   theme().scaled(kLowestAction));
+    const auto row = std::clamp(static_cast<int>(size.height() - 2 * kMargin) / count, lowest,
+                                theme().scaled(kAction));
     const auto actions = row * count;
     const auto authorLine = theme().lineHeight(TextStyle::body);
     const auto around = kAuthorGap + authorLine + kActionsGap;

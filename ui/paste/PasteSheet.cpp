@@ -68,6 +68,7 @@ PasteSheet::PasteSheet(Ui& ui, PasteTarget target, QWidget* window)
     follow();
     subscriptions_.add(ui.theme.version(), [this] { follow(); });
     subscriptions_.add(target_.vision, [this] { field_->margin().setVision(target_.vision); });
+    if (target_.wordsChanged) wordsChanged_ = target_.wordsChanged([this] { followWords(); });
     window->installEventFilter(this);
 }
 
@@ -117,15 +118,19 @@ void PasteSheet::follow() {
     update();
 }
 
+void PasteSheet::followWords() {
+    const auto words = target_.words();
+    explanation_->setText(words.explanation);
+    field_->editor().setAccessibleDescription(words.explanation);
+    accept_->setText(words.button);
+}
+
 // Opening and closing
 
 void PasteSheet::present() {
     if (isVisible()) return;
     before_ = QApplication::focusWidget();
-    const auto words = target_.words();
-    explanation_->setText(words.explanation);
-    field_->editor().setAccessibleDescription(words.explanation);
-    accept_->setText(words.button);
+    followWords();
     field_->margin().setVision(target_.vision);
     say(summary(), false);
     place();

@@ -7,6 +7,7 @@
 
 #include <QPointer>
 #include <QProperty>
+#include <QPropertyNotifier>
 #include <QString>
 #include <QWidget>
 #include <functional>
@@ -25,12 +26,14 @@ struct PasteTarget {
     struct Words {
         QString explanation, button;
     };
-    /// Asked for each time the sheet opens.
+    /// Asked for each time the sheet opens, and when they change.
     std::function<Words()> words;
     /// Is handed at least one.
     std::function<void(std::span<const PaletteFile::Swatch>)> take;
     /// What the window is seen with; outlives the sheet.
     const QProperty<Vision>& vision;
+    /// Calls back when the words change, for as long as the answer lives; none where they stay.
+    std::function<QPropertyNotifier(std::function<void()>)> wordsChanged{};
 };
 
 /// Into the palette; in a harmony mode they become the seeds.
@@ -62,6 +65,7 @@ private:
 
     void assemble();
     void follow();
+    void followWords();
     void place();
     void slideIn();
     void read();
@@ -85,6 +89,7 @@ private:
     QPointer<QWidget> before_; ///< had the keyboard
     bool acceptsOnceRead_ = false;
     Subscriptions subscriptions_;
+    QPropertyNotifier wordsChanged_;
 };
 
 } // namespace tintra

@@ -36,7 +36,10 @@ void take(AppState& state, std::span<const PaletteFile::Swatch> swatches) {
 PasteTarget pasteTarget(AppState& state) {
     return {[&state] { return wordsFor(state.mode); },
             [&state](std::span<const PaletteFile::Swatch> swatches) { take(state, swatches); },
-            state.vision};
+            state.vision,
+            [&state](std::function<void()> changed) {
+                return state.mode.addNotifier(std::move(changed));
+            }};
 }
 
 } // namespace tintra

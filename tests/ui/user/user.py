@@ -83,9 +83,24 @@ class User:
     def lets_go(self):
         self.xdotool("mouseup", 1)
 
-    def drags(self, start, end):
-        self.lifts(start, end)
-        self.lets_go()
+    def drags(self, start, end, is_offered=None):
+        """Lets go once it is offered there. On a busy machine the button may be down and the mouse
+        gone before the program looks, so that no drag begins: a person tries again."""
+        for patience in (4, 4, None):
+            self.lifts(start, end)
+            try:
+                if is_offered:
+                    until("the drag offered at its end", lambda: is_offered() or self.trembles(),
+                          patience)
+                return self.lets_go()
+            except NotSeen:
+                if patience is None:
+                    raise
+                self.keys("Escape")
+                self.lets_go()
+
+    def trembles(self):
+        self.xdotool("mousemove_relative", 1, 0, "mousemove_relative", "--", -1, 0)
 
     # Clipboard and files
 

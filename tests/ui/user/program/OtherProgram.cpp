@@ -2,7 +2,7 @@
 //
 // Another program of the desktop, for drags between programs: a row to drag for each kind of data
 // ("text/plain=#123456"), and a place that takes every drop and prints what it is offered, a kind a
-// line.
+// line. It also tells when a drag is accepted elsewhere, and when one comes in.
 
 #include <QApplication>
 #include <QColor>
@@ -15,6 +15,11 @@
 #include <cstdio>
 
 namespace {
+
+void tell(const char* what) {
+    std::puts(what);
+    std::fflush(stdout);
+}
 
 QMimeData* dataOf(const QString& kind, const QString& value) {
     auto* data = new QMimeData;
@@ -36,6 +41,9 @@ protected:
     void mouseMoveEvent(QMouseEvent*) override {
         auto* drag = new QDrag(this);
         drag->setMimeData(dataOf(kind_, value_));
+        connect(drag, &QDrag::actionChanged, this, [](Qt::DropAction action) {
+            if (action != Qt::IgnoreAction) tell("accepted");
+        });
         drag->exec(Qt::CopyAction);
     }
 
@@ -51,14 +59,16 @@ public:
     }
 
 protected:
-    void dragEnterEvent(QDragEnterEvent* event) override { event->acceptProposedAction(); }
+    void dragEnterEvent(QDragEnterEvent* event) override {
+        tell("entered");
+        event->acceptProposedAction();
+    }
     void dropEvent(QDropEvent* event) override {
         for (const auto& kind : event->mimeData()->formats()) {
             const auto text = QString::fromUtf8(event->mimeData()->data(kind)).simplified();
             std::printf("%s=%s\n", kind.toUtf8().constData(), text.toUtf8().constData());
         }
-        std::printf("end\n");
-        std::fflush(stdout);
+        tell("end");
         event->acceptProposedAction();
     }
 };

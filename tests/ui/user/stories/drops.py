@@ -17,23 +17,27 @@ def tell(user, desktop):
     tintra = user.starts()
     canvas = lambda: user.place(tintra.sees("list"), 0.9)
 
-    user.drags(offers[TEXT], canvas())
+    def accepted(times):
+        return lambda: other.log().count("accepted") >= times
+
+    user.drags(offers[TEXT], canvas(), accepted(1))
     user.finds_colours(["#663399"])
-    user.drags(offers[COLOUR], canvas())
+    user.drags(offers[COLOUR], canvas(), accepted(2))
     user.finds_colours(["#663399", "#3e7cb1"])
-    user.drags(offers[TEXT], canvas())
+    user.drags(offers[TEXT], canvas(), accepted(3))
     tintra.sees_notice("#663399 is already in this palette")
     for kind in ("application/x-nonsense", "image/png", FILES):
         user.drags(offers[kind], canvas())
     tintra.sees_notice("could not be read")
     user.finds_colours(["#663399", "#3e7cb1"])
 
-    user.drags(tintra.sees("list item", "Rebecca Purple"), offers["Drop here"])
+    user.drags(tintra.sees("list item", "Rebecca Purple"), offers["Drop here"],
+               lambda: "entered" in other.log())
     until("the colour in the other program", lambda: "end" in other.log())
     for kind in (f"{TEXT}=#663399", "application/x-tintra-colour=", f"{COLOUR}="):
         until(f"{kind} there, of {other.log()}", lambda: kind in other.log())
 
-    # The window is closed while a swatch is in the air.
+    # The other program ends while a swatch is in the air over it.
     user.lifts(tintra.sees("list item", "Rebecca Purple"), offers["Drop here"])
     other.process.terminate()
     user.lets_go()
