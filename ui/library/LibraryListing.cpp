@@ -15,8 +15,7 @@ using Group = PaletteEntry::Group;
 LibraryPalette paletteOf(const PaletteEntry& entry) {
     return {.key = entry.key(),
             .name = entry.name,
-            .extension = entry.url.extension().string(),
-            .fileName = entry.url.filename().string(),
+            .hasFile = !entry.url.empty(),
             .count = entry.count,
             .modified = entry.modified,
             .state = entry.state,
@@ -99,6 +98,17 @@ private:
 };
 
 } // namespace
+
+std::string_view LibraryPalette::fileName() const {
+    if (!hasFile) return {};
+    return std::string_view(key).substr(key.rfind('/') + 1);
+}
+
+std::string_view LibraryPalette::extension() const {
+    const auto file = fileName();
+    const auto point = file.rfind('.');
+    return point == std::string_view::npos || point == 0 ? std::string_view() : file.substr(point);
+}
 
 LibraryContent libraryContent(const PaletteStore& store,
                               const std::vector<PaletteLocation>& locations, bool system) {

@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // What the Library shows: which palettes, in which groups and order, and why each was found. Pure;
@@ -20,8 +21,7 @@ namespace tintra {
 struct LibraryPalette {
     std::string key; ///< of the store's entry
     std::string name;
-    std::string extension; ///< ".ase"; empty for one without a file
-    std::string fileName;  ///< empty for one without a file
+    bool hasFile = false;  ///< the key is its path
     std::size_t count = 0; ///< of swatches; 0 until it is read
     std::chrono::system_clock::time_point modified;
     PaletteEntry::State state = PaletteEntry::State::loading;
@@ -30,6 +30,10 @@ struct LibraryPalette {
     // For searching and sorting.
     FoldedText searchedName;
     std::string sortKey;
+
+    /// Both empty for one without a file; the extension with its point.
+    std::string_view fileName() const;
+    std::string_view extension() const;
 };
 
 /// What heads palettes: a watched folder, the colour picker or the system.

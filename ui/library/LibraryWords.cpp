@@ -15,20 +15,20 @@ namespace tintra {
 QString countAndType(const LibraryPalette& palette) {
     QStringList parts;
     if (palette.palette && palette.count > 0) parts << QString::number(palette.count);
-    if (!palette.extension.empty()) parts << oneLine(palette.extension, 12);
+    if (palette.hasFile) parts << oneLine(palette.extension(), 12);
+    parts.removeAll(QString());
     return parts.join(QStringLiteral(" · "));
 }
 
 QString dateText(const LibraryPalette& palette) {
-    if (palette.fileName.empty()) return {};
+    if (!palette.hasFile) return {};
     const auto seconds = std::chrono::system_clock::to_time_t(palette.modified);
     return QLocale().toString(QDateTime::fromSecsSinceEpoch(seconds).date(),
                               QStringLiteral("d MMM yyyy"));
 }
 
 QString unreadableText(const LibraryPalette& palette) {
-    const auto& name = palette.fileName.empty() ? palette.name : palette.fileName;
-    return oneLine(SaveTexts::unreadableText(name));
+    return oneLine(SaveTexts::unreadableText(palette.hasFile ? palette.fileName() : palette.name));
 }
 
 QString titleOf(const LibraryGroup& group) {
@@ -82,7 +82,7 @@ LibraryMatchText matchOf(const LibraryModel& model, std::size_t find) {
 }
 
 std::unique_ptr<QMimeData> mimeOfListed(const Ui& ui, const LibraryPalette& palette) {
-    if (!palette.fileName.empty()) return mimeOfPalette(palette.key);
+    if (palette.hasFile) return mimeOfPalette(palette.key);
     if (!palette.palette) return nullptr;
     QStringList codes;
     for (const auto& swatch : palette.palette->swatches)
