@@ -15,7 +15,6 @@
 
 #include <QLineEdit>
 #include <QPaintEvent>
-#include <QPushButton>
 #include <QUrl>
 #include <functional>
 

@@ -173,6 +173,17 @@ TEST(Keys, OfACanvasRestWhileAToolHasTheKeyboard) {
     EXPECT_EQ(shown.state.swatches().size(), 2U);
 }
 
+TEST(Keys, TabWalksTheToolsFromTheModeToMore) {
+    Shown shown;
+    press("F6");
+    press("F6");
+    std::vector<std::string> tools;
+    for (int i = 0; i < 11; ++i, press("Tab"))
+        tools.push_back(toUtf8(QApplication::focusWidget()->accessibleName()));
+    EXPECT_EQ(tools.front(), "Mode: Palette");
+    EXPECT_EQ(tools.back(), "More");
+}
+
 TEST(Keys, GoBackToTheSwatchesWhenTheEditorCloses) {
     Shown shown;
     auto* canvas = QApplication::focusWidget();

@@ -42,11 +42,13 @@ ToolLine::ToolLine(Ui& ui, ContextOf context, QWidget* parent)
 void ToolLine::addLeft(QWidget* choice) {
     choice->setParent(this);
     left_.push_back(choice);
+    orderTabs();
 }
 
 void ToolLine::addRight(QWidget* choice) {
     choice->setParent(this);
     right_.push_back(choice);
+    orderTabs();
 }
 
 void ToolLine::setWords(const QString& words) {
@@ -71,9 +73,24 @@ ToolButton& ToolLine::add(ActionId action, ActionId switched, std::string_view i
         sync();
     });
     tools_.push_back({action, switched, button, opensGroup});
-    // More is the last stop of the Tab key.
-    setTabOrder(button, more_);
+    orderTabs();
     return *button;
+}
+
+/// As they stand, from left to right.
+void ToolLine::orderTabs() {
+    QWidget* last = nullptr;
+    const auto next = [&last](QWidget* stop) {
+        if (last) setTabOrder(last, stop);
+        last = stop;
+    };
+    for (auto* choice : left_)
+        next(choice);
+    for (auto* choice : right_)
+        next(choice);
+    for (const auto& tool : tools_)
+        next(tool.button);
+    next(more_);
 }
 
 bool ToolLine::isOn(ActionId action) const {

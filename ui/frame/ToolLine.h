@@ -52,6 +52,7 @@ private:
 
     ToolButton& add(ActionId action, ActionId switched, std::string_view icon, bool opensGroup);
     bool isOn(ActionId action) const;
+    void orderTabs();
 
     void layOut();
     int widthNeeded() const;
