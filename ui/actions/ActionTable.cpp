@@ -1,7 +1,6 @@
 #include "ui/actions/ActionTable.h"
 
 #include "ui/actions/ActionRows.h"
-#include "ui/frame/MainWindow.h"
 #include "ui/shared/Text.h"
 
 #include <QStringList>
@@ -14,15 +13,10 @@ namespace {
 std::vector<ActionRow> gathered() {
     std::vector<ActionRow> rows;
     for (const auto& part : {actionRows::ofFile(), actionRows::ofEdit(), actionRows::ofPalette(),
-                             actionRows::ofSwatch(), actionRows::ofBench(),
-                             actionRows::ofContrast(), actionRows::ofLibrary(),
-                             actionRows::ofView(), actionRows::ofWindow(), actionRows::ofKeys()})
+                             actionRows::ofSwatch(), actionRows::ofView(), actionRows::ofWindow(),
+                             actionRows::ofKeys()})
         rows.insert(rows.end(), part.begin(), part.end());
     return rows;
-}
-
-bool isIn(const ActionRow& row, const ActionContext& context) {
-    return context.window && row.in.contains(context.window->kind());
 }
 
 } // namespace
@@ -51,11 +45,11 @@ QString keyText(const ActionRow& row) {
 }
 
 QString actionTitle(const ActionRow& row, const ActionContext& context) {
-    return row.title && isIn(row, context) ? row.title(context) : worded(row.text);
+    return row.title && context.window ? row.title(context) : worded(row.text);
 }
 
 bool isEnabled(const ActionRow& row, const ActionContext& context) {
-    return isIn(row, context) && (!row.isEnabled || row.isEnabled(context));
+    return context.window && (!row.isEnabled || row.isEnabled(context));
 }
 
 bool perform(ActionId id, const ActionContext& context) {

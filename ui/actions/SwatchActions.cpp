@@ -4,7 +4,6 @@
 #include "integration/AdobeBridge.h"
 #include "platform/Services.h"
 #include "platform/Toasts.h"
-#include "state/ContrastSending.h"
 #include "state/Models.h"
 #include "state/NoticeTexts.h"
 #include "ui/actions/ActionRows.h"
@@ -15,10 +14,6 @@
 
 namespace tintra::actionRows {
 namespace {
-
-/// Those whose colours are sent to Contrast.
-constexpr auto kSendingWindows =
-    WindowKinds(WindowKind::palette) | WindowKind::bench | WindowKind::library;
 
 bool isBenched(const Context& context) {
     const auto target = context.window->target();
@@ -36,19 +31,17 @@ void toggleBench(const Context& context) {
     });
 }
 
-ContrastSending contrastFrom(const Context& context) {
-    return {context.ui.models.contrast(), context.ui.services.toasts, context.window->place()};
-}
-
 void sendToContrast(const Context& context) {
-    if (const auto target = context.window->target())
-        contrastFrom(context).send(target->color, target->name);
+    withTarget(context, [](AppState& of, const Target& target) {
+        of.sendToContrast(target.color, target.name, of.place());
+    });
 }
 
 template <Contrast::Role role>
 void sendAs(const Context& context) {
-    if (const auto target = context.window->target())
-        contrastFrom(context).send(target->color, target->name, role);
+    withTarget(context, [](AppState& of, const Target& target) {
+        of.sendToContrast(target.color, target.name, role, of.place());
+    });
 }
 
 template <AppState::SeedRole role>
@@ -95,7 +88,7 @@ const ActionRow kRows[] = {
      .perform =
          [](const Context& c) {
              unfold(c);
-             c.palette->beginRename();
+             c.window->beginRename();
          }},
     {.value = ActionId::editColour,
      .raw = "editColour",
@@ -126,7 +119,6 @@ const ActionRow kRows[] = {
      .text = "Send to Contrast",
      .keys = "K",
      .scope = KeyScope::canvas,
-     .in = kSendingWindows,
      .menu = MenuId::swatch,
      .isEnabled = hasTarget,
      .perform = sendToContrast},
@@ -135,7 +127,6 @@ const ActionRow kRows[] = {
      .text = "Send to Contrast as Text",
      .keys = "Shift+K",
      .scope = KeyScope::canvas,
-     .in = kSendingWindows,
      .menu = MenuId::swatch,
      .isEnabled = hasTarget,
      .perform = sendAs<Contrast::Role::text>},
@@ -144,7 +135,6 @@ const ActionRow kRows[] = {
      .text = "Send to Contrast as Ground",
      .keys = "Ctrl+K",
      .scope = KeyScope::canvas,
-     .in = kSendingWindows,
      .menu = MenuId::swatch,
      .isEnabled = hasTarget,
      .perform = sendAs<Contrast::Role::ground>},

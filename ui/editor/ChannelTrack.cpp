@@ -78,13 +78,9 @@ std::pair<qreal, qreal> ChannelTrack::way() const {
     return {in.left() + half, in.right() - half};
 }
 
-qreal ChannelTrack::placeOf(double value) const {
-    const auto [from, to] = way();
-    return from + channel_->share(value) * (to - from);
-}
-
 QPointF ChannelTrack::thumbPlace() const {
-    return {placeOf(value_), height() / 2.0};
+    const auto [from, to] = way();
+    return {from + channel_->share(value_) * (to - from), height() / 2.0};
 }
 
 QRect ChannelTrack::thumbRect() const {

@@ -2,21 +2,14 @@
 
 #include "ui/shared/Canvas.h"
 
-#include <QCoreApplication>
 #include <QKeyEvent>
-#include <QScrollBar>
-#include <QWheelEvent>
 
 namespace tintra {
 
-CanvasScroll::CanvasScroll(QWidget* parent, Qt::Orientation along)
-    : QScrollArea(parent), along_(along) {
+CanvasScroll::CanvasScroll(QWidget* parent) : QScrollArea(parent) {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
-    if (along == Qt::Vertical)
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    else
-        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
 }
 
@@ -32,14 +25,6 @@ void CanvasScroll::reveal(const QRect& what) {
 
 void CanvasScroll::keyPressEvent(QKeyEvent* event) {
     event->ignore();
-}
-
-void CanvasScroll::wheelEvent(QWheelEvent* event) {
-    // Either wheel scrolls the one way that there is.
-    if (along_ == Qt::Horizontal)
-        QCoreApplication::sendEvent(horizontalScrollBar(), event);
-    else
-        QScrollArea::wheelEvent(event);
 }
 
 } // namespace tintra

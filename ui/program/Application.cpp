@@ -3,12 +3,9 @@
 #include "colour/ColorNames.h"
 #include "state/Preferences.h"
 #include "state/Workspaces.h"
-#include "ui/bench/BenchWindow.h"
-#include "ui/contrast/ContrastWindow.h"
 #include "ui/exporting/ExportDialogue.h"
 #include "ui/help/AboutWindow.h"
 #include "ui/help/ShortcutsWindow.h"
-#include "ui/library/LibraryWindow.h"
 #include "ui/palette/PaletteWindow.h"
 #include "ui/settings/SettingsWindow.h"
 #include "ui/shared/Canvas.h"
@@ -17,7 +14,6 @@
 
 #include <QApplication>
 #include <algorithm>
-#include <type_traits>
 #include <utility>
 
 namespace tintra {
@@ -70,36 +66,23 @@ Application::Application(Surroundings surroundings)
         else
             answered(std::nullopt);
     };
-    connectNotices();
+    toasts_.barOf = [this](const ToastPlace& place) -> NoticeBar* {
+        if (place.window == ToastWindow::settings && settings_) return &settings_->notices();
+        auto* window = place.window == ToastWindow::palette ? palette(place.palette) : nullptr;
+        return window ? &window->notices() : nullptr;
+    };
     connectModels();
     applyTheme();
 }
 
 Application::~Application() {
-    delete bench_;
-    delete contrast_;
-    delete library_;
     delete settings_;
     delete shortcuts_;
     delete about_;
 }
 
-void Application::connectNotices() {
-    toasts_.barOf = [this](const ToastPlace& place) -> NoticeBar* {
-        if (place.window == ToastWindow::settings && settings_) return &settings_->notices();
-        auto* window = mainWindow(place);
-        return window ? &window->notices() : nullptr;
-    };
-}
-
 void Application::connectModels() {
     auto& requests = models_.preferences().windows;
-    requests.openMainWindow = [this] { requests_.activate(); };
-    requests.openBenchWindow = [this] { openBench(); };
-    requests.openContrastWindow = [this] { openContrast(); };
-    requests.openLibraryWindow = [this] { openLibrary(); };
-    // Who sends one colour after the other goes on where he is.
-    models_.bench().openWindow = [this] { showBeside(bench_); };
     requests.openSettingsWindow = [this] { openSettings(); };
     requests.openShortcutsWindow = [this] { openShortcuts(); };
     requests.openAboutWindow = [this] { openAbout(); };
@@ -125,12 +108,8 @@ void Application::applyTheme() {
 }
 
 void Application::start(const std::vector<std::filesystem::path>& files) {
-    const auto opening = models_.start([this](const Uuid& id) { openPalette(id); });
-    if (opening.library) showBeside(library_);
-    if (opening.bench) showBeside(bench_);
-    if (opening.contrast) showBeside(contrast_);
-    if (palettes_.empty() && opening == Models::Opening{})
-        openPalette(models_.workspaces().openPrimary().id());
+    models_.start([this](const Uuid& id) { openPalette(id); });
+    if (palettes_.empty()) openPalette(models_.workspaces().openPrimary().id());
     if (!files.empty()) requests_.open(files);
 }
 
@@ -148,24 +127,7 @@ std::vector<PaletteWindow*> Application::palettes() const {
 
 QWidget* Application::window(const ToastPlace& place) const {
     if (place.window == ToastWindow::settings) return settings_;
-    return mainWindow(place);
-}
-
-MainWindow* Application::mainWindow(const ToastPlace& place) const {
-    switch (place.window) {
-    case ToastWindow::palette:
-        return palette(place.palette);
-    case ToastWindow::bench:
-        return bench_;
-    case ToastWindow::contrast:
-        return contrast_;
-    case ToastWindow::library:
-        return library_;
-    case ToastWindow::settings:
-    case ToastWindow::none:
-        break;
-    }
-    return nullptr;
+    return place.window == ToastWindow::palette ? palette(place.palette) : nullptr;
 }
 
 void Application::openPalette(const Uuid& id) {
@@ -196,40 +158,14 @@ void Application::closePalette(const Uuid& id) {
 }
 
 template <class Window>
-Window& Application::only(QPointer<Window>& window) {
+void Application::showOnly(QPointer<Window>& window) {
     if (!window) {
         window = new Window(ui_);
         window->setAttribute(Qt::WA_DeleteOnClose);
-        // Settings and help do not keep the program running.
-        window->setAttribute(Qt::WA_QuitOnClose, std::is_base_of_v<MainWindow, Window>);
+        // The program is its palettes: none of these keeps it running.
+        window->setAttribute(Qt::WA_QuitOnClose, false);
     }
-    return *window;
-}
-
-template <class Window>
-void Application::showOnly(QPointer<Window>& window) {
-    bringUp(only(window));
-}
-
-template <class Window>
-void Application::showBeside(QPointer<Window>& window) {
-    if (window) return;
-    auto& shown = only(window);
-    shown.setAttribute(Qt::WA_ShowWithoutActivating);
-    shown.show();
-    shown.setAttribute(Qt::WA_ShowWithoutActivating, false);
-}
-
-void Application::openBench() {
-    showOnly(bench_);
-}
-
-void Application::openContrast() {
-    showOnly(contrast_);
-}
-
-void Application::openLibrary() {
-    showOnly(library_);
+    bringUp(*window);
 }
 
 void Application::openSettings() {

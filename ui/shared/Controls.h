@@ -90,8 +90,6 @@ public:
     void setInverted(bool inverted);
     /// Fills the menu each time it opens.
     std::function<void(QMenu&)> fill;
-    /// Opens something else in the menu's place.
-    std::function<void()> open;
     void openMenu();
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

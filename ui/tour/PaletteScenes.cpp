@@ -161,11 +161,11 @@ QImage backdrops(Stage& stage) {
 }
 
 constexpr std::array kScenes{
-    Scene{"palette-columns", kAll, columns},       Scene{"palette-40", kBoth, forty},
-    Scene{"palette-tiles", kBoth, tiles},          Scene{"palette-vision", kBoth, vision},
-    Scene{"palette-empty", kBoth, empty},          Scene{"palette-ramp", kBoth, ramp},
-    Scene{"palette-triadic", kBoth, triadic},      Scene{"palette-dragging", kBoth, dragging},
-    Scene{"palette-narrow", kBoth, narrow},        Scene{"strip-collapsed", kBoth, collapsed},
+    Scene{"palette-columns", kAll, columns},      Scene{"palette-40", kBoth, forty},
+    Scene{"palette-tiles", kBoth, tiles},         Scene{"palette-vision", kBoth, vision},
+    Scene{"palette-empty", kBoth, empty},         Scene{"palette-ramp", kBoth, ramp},
+    Scene{"palette-triadic", kBoth, triadic},     Scene{"palette-dragging", kBoth, dragging},
+    Scene{"palette-narrow", kBoth, narrow},       Scene{"strip-collapsed", kBoth, collapsed},
     Scene{"palette-backdrops", kLight, backdrops},
 };
 

@@ -1,4 +1,4 @@
-#include "ui/frame/CalledMenuBar.h"
+#include "ui/palette/CalledMenuBar.h"
 
 #include <QApplication>
 #include <QFocusEvent>
