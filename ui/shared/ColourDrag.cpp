@@ -12,6 +12,8 @@ namespace {
 
 constexpr int kBadge = 32;
 
+} // namespace
+
 QPixmap prohibitedBadge(qreal ratio) {
     QPixmap badge(QSize(kBadge, kBadge) * ratio);
     badge.setDevicePixelRatio(ratio);
@@ -29,15 +31,13 @@ QPixmap prohibitedBadge(qreal ratio) {
     return badge;
 }
 
-} // namespace
-
 void dragColour(QWidget& from, const SwatchPainter& painter, const Drag& dragged,
                 const SwatchLook& look, QSize card) {
     const auto ratio = from.devicePixelRatioF();
     // Qt deletes it, also when the widget goes in the middle of the drag.
     auto* drag = new QDrag(&from);
     drag->setMimeData(mimeOf(dragged, look.code).release());
-    drag->setPixmap(painter.card(look, card, false, ratio));
+    drag->setPixmap(painter.card(look, card, ratio));
     drag->setHotSpot({30, 30});
     drag->setDragCursor(prohibitedBadge(ratio), Qt::IgnoreAction);
     const bool moves = std::holds_alternative<DragOfSwatch>(dragged.source);

@@ -2,6 +2,7 @@
 
 #include "state/Drag.h"
 
+#include <QPixmap>
 #include <QSize>
 
 class QWidget;
@@ -18,5 +19,8 @@ inline constexpr QSize kDragCard(128, 96), kSmallDragCard(96, 72);
 /// pointer is a prohibited badge on the card.
 void dragColour(QWidget& from, const SwatchPainter& painter, const Drag& dragged,
                 const SwatchLook& look, QSize card);
+
+/// The pointer over what refuses a drag, for a screen of that ratio.
+QPixmap prohibitedBadge(qreal ratio);
 
 } // namespace tintra

@@ -308,8 +308,8 @@ std::vector<QRectF> SwatchPainter::buttonRects(const QRectF& in, SwatchShape sha
     return rects;
 }
 
-QPixmap SwatchPainter::card(const SwatchLook& look, QSize size, bool refused, qreal ratio) const {
-    constexpr int kMargin = 20; // the tilt, the rings and the badge
+QPixmap SwatchPainter::card(const SwatchLook& look, QSize size, qreal ratio) const {
+    constexpr int kMargin = 20; // the tilt and the rings
     constexpr qreal kTilt = -2;
     const QSize whole = size + QSize(2 * kMargin, 2 * kMargin);
     QPixmap pixmap(whole * ratio);
@@ -332,19 +332,6 @@ QPixmap SwatchPainter::card(const SwatchLook& look, QSize size, bool refused, qr
     plain.selected = plain.focused = false;
     plain.radii.fill(metrics::kGroupRadius);
     paint(painter, card, plain);
-    if (refused) {
-        const QRectF badge(card.right() - 18, card.top() - 12, 30, 30);
-        painter.setPen(QPen(Qt::white, 2));
-        painter.setBrush(QColor(0x16, 0x16, 0x16));
-        painter.drawEllipse(badge);
-        painter.setBrush(Qt::NoBrush);
-        const auto ring = badge.adjusted(9, 9, -9, -9);
-        painter.setPen(QPen(Qt::white, 1.5));
-        painter.drawEllipse(ring);
-        const auto reach = ring.width() / 2 * M_SQRT1_2;
-        painter.drawLine(ring.center() - QPointF(reach, reach),
-                         ring.center() + QPointF(reach, reach));
-    }
     return pixmap;
 }
 

@@ -77,8 +77,8 @@ public:
     QRectF codeRect(const QRectF& in, const SwatchLook& look) const;
     std::vector<QRectF> buttonRects(const QRectF& in, SwatchShape shape, std::size_t count) const;
 
-    /// What is dragged: a tilted card; `refused` with the prohibited badge.
-    QPixmap card(const SwatchLook& look, QSize size, bool refused, qreal ratio) const;
+    /// What is dragged: a tilted card.
+    QPixmap card(const SwatchLook& look, QSize size, qreal ratio) const;
 
 private:
     void paintRings(QPainter& painter, const QRectF& in, const SwatchLook& look,

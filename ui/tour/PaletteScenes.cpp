@@ -3,6 +3,7 @@
 #include "state/AppState.h"
 #include "state/Preferences.h"
 #include "ui/palette/PaletteWindow.h"
+#include "ui/shared/ColourDrag.h"
 #include "ui/shared/ColourMime.h"
 #include "ui/shared/NoticeBar.h"
 #include "ui/tour/Scenes.h"
@@ -111,11 +112,12 @@ QImage dragging(Stage& stage) {
     look.code = QStringLiteral("#f4a93b");
     const QSize size(128, 96);
     const auto ratio = window.devicePixelRatioF();
-    painter.drawPixmap(QPoint(200, 220), stage.ui().painter.card(look, size, false, ratio));
+    painter.drawPixmap(QPoint(200, 220), stage.ui().painter.card(look, size, ratio));
     look.color = colour("36543a");
     look.name = QStringLiteral("Kelp");
     look.code = QStringLiteral("#36543a");
-    painter.drawPixmap(QPoint(640, 220), stage.ui().painter.card(look, size, true, ratio));
+    painter.drawPixmap(QPoint(640, 220), stage.ui().painter.card(look, size, ratio));
+    painter.drawPixmap(QPoint(768, 226), prohibitedBadge(ratio));
     return picture;
 }
 
@@ -161,11 +163,11 @@ QImage backdrops(Stage& stage) {
 }
 
 constexpr std::array kScenes{
-    Scene{"palette-columns", kAll, columns},      Scene{"palette-40", kBoth, forty},
-    Scene{"palette-tiles", kBoth, tiles},         Scene{"palette-vision", kBoth, vision},
-    Scene{"palette-empty", kBoth, empty},         Scene{"palette-ramp", kBoth, ramp},
-    Scene{"palette-triadic", kBoth, triadic},     Scene{"palette-dragging", kBoth, dragging},
-    Scene{"palette-narrow", kBoth, narrow},       Scene{"strip-collapsed", kBoth, collapsed},
+    Scene{"palette-columns", kAll, columns},       Scene{"palette-40", kBoth, forty},
+    Scene{"palette-tiles", kBoth, tiles},          Scene{"palette-vision", kBoth, vision},
+    Scene{"palette-empty", kBoth, empty},          Scene{"palette-ramp", kBoth, ramp},
+    Scene{"palette-triadic", kBoth, triadic},      Scene{"palette-dragging", kBoth, dragging},
+    Scene{"palette-narrow", kBoth, narrow},        Scene{"strip-collapsed", kBoth, collapsed},
     Scene{"palette-backdrops", kLight, backdrops},
 };
 
