@@ -1,6 +1,7 @@
 #include "colour/ChromaFit.h"
 #include "colour/Clamp.h"
 #include "colour/Contrast.h"
+#include "colour/ContrastLightness.h"
 #include "colour/SrgbBytes.h"
 
 #include <algorithm>
@@ -43,6 +44,16 @@ private:
 };
 
 } // namespace
+
+double lightness(const WashColor& colour) {
+    return LightnessPath(colour).start();
+}
+
+WashColor atLightness(const WashColor& colour, double lightness) {
+    auto moved = LightnessPath(colour).at(clampedUnit(lightness)).colour;
+    moved.a = clampedUnit(colour.a);
+    return moved;
+}
 
 std::optional<Reached> reach(const WashColor& moving,
                              const std::function<bool(const WashColor&)>& passes) {

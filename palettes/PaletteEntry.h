@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tintra {
@@ -47,6 +48,13 @@ struct PaletteEntry {
 struct PaletteOrder {
     bool byName = true, byDate = false, ascending = true;
 };
+/// What of a palette counts for that.
+struct PaletteRank {
+    std::string_view sortKey; ///< of its name
+    std::size_t count = 0;
+    std::chrono::system_clock::time_point modified;
+};
+bool comesBefore(const PaletteRank& a, const PaletteRank& b, const PaletteOrder& order);
 std::vector<PaletteEntry> sorted(std::vector<PaletteEntry> entries, const PaletteOrder& order);
 
 /// The same without moving entries: their positions in the order.

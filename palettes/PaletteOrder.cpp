@@ -21,21 +21,26 @@ std::vector<std::string> missingKeys(const std::vector<PaletteEntry>& entries) {
 
 } // namespace
 
+bool comesBefore(const PaletteRank& a, const PaletteRank& b, const PaletteOrder& order) {
+    const auto compared = [&](const PaletteRank& one, const PaletteRank& other) {
+        if (order.byDate) return one.modified <=> other.modified;
+        return order.byName ? one.sortKey <=> other.sortKey : one.count <=> other.count;
+    };
+    const std::strong_ordering first = order.ascending ? compared(a, b) : compared(b, a);
+    return std::is_lt(std::is_eq(first) ? a.sortKey <=> b.sortKey : first);
+}
+
 std::vector<std::size_t> sortedPositions(const std::vector<PaletteEntry>& entries,
                                          const PaletteOrder& order) {
     const auto keys = missingKeys(entries);
-    const auto byName = [&](std::size_t a, std::size_t b) {
-        return keys.empty() ? entries[a].sortKey <=> entries[b].sortKey : keys[a] <=> keys[b];
-    };
-    const auto compared = [&](std::size_t a, std::size_t b) -> std::strong_ordering {
-        if (order.byDate) return entries[a].modified <=> entries[b].modified;
-        return order.byName ? byName(a, b) : entries[a].count <=> entries[b].count;
+    const auto rank = [&](std::size_t at) {
+        const auto& entry = entries[at];
+        return PaletteRank{keys.empty() ? entry.sortKey : keys[at], entry.count, entry.modified};
     };
     std::vector<std::size_t> positions(entries.size());
     std::iota(positions.begin(), positions.end(), std::size_t{0});
     std::ranges::stable_sort(positions, [&](std::size_t a, std::size_t b) {
-        const auto first = order.ascending ? compared(a, b) : compared(b, a);
-        return std::is_lt(std::is_eq(first) ? byName(a, b) : first);
+        return comesBefore(rank(a), rank(b), order);
     });
     return positions;
 }

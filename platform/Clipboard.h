@@ -18,6 +18,9 @@ public:
         std::optional<std::array<double, 4>> colour;
         /// A picture as the content of a PNG file; empty for none. Only put there, never read.
         Bytes png{};
+        /// The same as the text, for programs that take tables and type; empty for none. Only put
+        /// there, never read.
+        std::string html{};
         bool operator==(const Content&) const = default;
     };
 

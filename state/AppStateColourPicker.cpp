@@ -1,10 +1,9 @@
-#include "palettes/FileNames.h"
 #include "platform/Dialogues.h"
 #include "platform/Unicode.h"
 #include "state/AppState.h"
 #include "state/Errands.h"
 #include "state/NoticeTexts.h"
-#include "state/Preferences.h"
+#include "state/PaletteQuestions.h"
 #include "state/SaveTexts.h"
 
 #include <utility>
@@ -25,14 +24,13 @@ struct AppState::Installing {
     static void withColorsFolder(AppState& state, std::function<void(bool granted)> then);
     static void askWhatToInstallAs(AppState& state, NameQuestion question,
                                    std::function<void(std::string, Clash)> then);
-    static NameQuestion::Clash replaceOrKeepBoth(std::string_view text);
     static void install(AppState& state, const std::string& as, Clash clash);
     static void installCopy(AppState& state, const std::string& as, Clash clash);
     static void installInto(AppState& state, const InstallTarget& target, const std::string& as,
                             Clash clash);
     static void askToRenameList(AppState& state, const std::string& as, Clash clash);
     static void renameList(AppState& state, const std::string& as, Clash clash);
-    static void sayInstalled(AppState& state, const std::string& as,
+    static void sayInstalled(AppState& state, std::string_view as,
                              const std::variant<PaletteStore::Saved, FileError>& result,
                              const Said& said);
 };
@@ -108,27 +106,12 @@ void AppState::Installing::askAboutClash(AppState& state, std::string_view name,
 
 void AppState::Installing::withColorsFolder(AppState& state,
                                             std::function<void(bool granted)> then) {
-    if (state.context_.store.writableColorsFolder()) {
-        then(true);
-        return;
-    }
-    state.context_.services.dialogues.askWhatToOpen(
-        {OpenQuestion::Of::folder, std::string(kInstallOnce), state.place()},
-        whileAlive(state.alive_, [&state, then = std::move(then)](
-                                     const std::optional<std::filesystem::path>& folder) {
-            if (folder) {
-                const auto path = asBytes(folder->native());
-                state.context_.preferences.colorsFolderBookmark = Bytes(path.begin(), path.end());
-            }
-            then(folder.has_value());
-        }));
+    const auto& context = state.context_;
+    PaletteQuestions::withColorsFolder(context.services, context.preferences, context.store,
+                                       state.place(), state.alive_, std::move(then));
 }
 
 // Installing
-
-NameQuestion::Clash AppState::Installing::replaceOrKeepBoth(std::string_view text) {
-    return {std::string(text), {std::string(kReplace), std::string(kKeepBoth)}};
-}
 
 void AppState::Installing::askWhatToInstallAs(AppState& state, NameQuestion question,
                                               std::function<void(std::string, Clash)> then) {
@@ -136,29 +119,18 @@ void AppState::Installing::askWhatToInstallAs(AppState& state, NameQuestion ques
         state.toast(std::string(kNoSwatches), kForCounts);
         return;
     }
-    question.proposal = state.title();
-    question.button = "Install";
-    question.refusal = whyUnfit;
-    question.over = state.place();
-    state.context_.services.dialogues.askName(
-        std::move(question),
-        whileAlive(state.alive_, [then = std::move(then)](const std::optional<NameAnswer>& answer) {
-            if (!answer) return;
-            // Without a clash nothing is replaced, whatever has come there meanwhile.
-            then(std::string(trimmed(answer->name)),
-                 answer->button == 0U ? Clash::replace : Clash::keepBoth);
-        }));
+    PaletteQuestions::askInstallName(state.context_.services, std::move(question), state.title(),
+                                     state.place(), state.alive_, std::move(then));
 }
+
 void AppState::installInColourPicker() {
     Installing::withColorsFolder(*this, [this](bool granted) {
         if (!granted) return;
-        NameQuestion question;
-        question.title = "Install in the colour picker as";
-        question.note = kInstallNote;
-        question.clash = [this](std::string_view name) -> std::optional<NameQuestion::Clash> {
+        auto question = PaletteQuestions::installName(context_.store);
+        question.clash = [this, any = std::move(question.clash)](
+                             std::string_view name) -> std::optional<NameQuestion::Clash> {
             const bool isOwn = home() == Home::colourPicker && trimmed(name) == title();
-            if (isOwn || !context_.store.hasNamed(trimmed(name))) return std::nullopt;
-            return Installing::replaceOrKeepBoth(kListExists);
+            return isOwn ? std::nullopt : any(name);
         };
         Installing::askWhatToInstallAs(
             *this, std::move(question),
@@ -209,33 +181,15 @@ void AppState::Installing::installCopy(AppState& state, const std::string& as, C
     sayInstalled(state, as, result, savedToPickerText);
 }
 
-void AppState::Installing::sayInstalled(AppState& state, const std::string& as,
+void AppState::Installing::sayInstalled(AppState& state, std::string_view as,
                                         const std::variant<PaletteStore::Saved, FileError>& result,
                                         const Said& said) {
-    if (const auto* const error = std::get_if<FileError>(&result)) {
-        state.toast(couldNotText(as, "saved", error->why), kForCounts);
-        return;
-    }
-    const auto& saved = std::get<PaletteStore::Saved>(result);
-    auto text = said(saved.name);
-    if (saved.oldIsInTrash) text += kOldListInTrash;
-    // It may have replaced the list that a window shows.
-    static_cast<void>(state.context_.windows.saved(saved.file));
-    state.toast(std::move(text), kForCounts);
+    PaletteQuestions::sayInstalled(state.context_.services, state.context_.windows, state.place(),
+                                   as, result, said);
 }
 
 void AppState::installFor(const InstallTarget& target) {
-    NameQuestion question;
-    question.title = installForTitle(target.title);
-    question.note = target.folder.string();
-    question.clash =
-        [folder = target.folder](std::string_view name) -> std::optional<NameQuestion::Clash> {
-        std::error_code ignored;
-        if (!std::filesystem::exists(folder / (fitFileName(name) + ".gpl"), ignored))
-            return std::nullopt;
-        return Installing::replaceOrKeepBoth(kPaletteExists);
-    };
-    Installing::askWhatToInstallAs(*this, std::move(question),
+    Installing::askWhatToInstallAs(*this, PaletteQuestions::installName(target),
                                    [this, target](const std::string& as, Clash clash) {
                                        Installing::installInto(*this, target, as, clash);
                                    });

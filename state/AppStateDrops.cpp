@@ -1,22 +1,9 @@
-#include "palettes/PasteColours.h"
-#include "palettes/Stylesheet.h"
+#include "palettes/PastedText.h"
 #include "state/AppState.h"
 #include "state/NoticeTexts.h"
 #include "state/SwatchIdentity.h"
 
 namespace tintra {
-namespace {
-
-/// Colours of pasted or dropped text, with the names that a stylesheet's variables give them.
-std::vector<PaletteFile::Swatch> coloursIn(std::string_view text) {
-    if (Stylesheet::looksLikeStylesheet(text)) return Stylesheet::read(text);
-    std::vector<PaletteFile::Swatch> swatches;
-    for (const auto& colour : PasteColours::parse(text))
-        swatches.push_back({colour, {}});
-    return swatches;
-}
-
-} // namespace
 
 std::optional<std::size_t> AppState::ownSwatch(const Drag& drag) const {
     const auto* swatch = std::get_if<DragOfSwatch>(&drag.source);

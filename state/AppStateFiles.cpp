@@ -8,6 +8,7 @@
 #include "state/AppUndo.h"
 #include "state/Errands.h"
 #include "state/NoticeTexts.h"
+#include "state/PaletteQuestions.h"
 #include "state/Preferences.h"
 #include "state/SaveTexts.h"
 #include "state/SwatchMatch.h"
@@ -231,14 +232,7 @@ PaletteStore::Entry AppState::entryOfFile() const {
 void AppState::Loading::askFileName(AppState& state, NameQuestion question,
                                     void (AppState::*then)(std::string_view)) {
     question.over = state.place();
-    question.refusal = [entry = state.entryOfFile(), &store = state.context_.store](
-                           std::string_view name) -> std::optional<std::string> {
-        if (auto refused = whyUnfit(name)) return refused;
-        std::error_code ignored;
-        const auto there = store.placeOfCopy(entry, trimmed(name));
-        if (std::filesystem::exists(there, ignored)) return SaveTexts::alreadyThereText(name);
-        return std::nullopt;
-    };
+    question.refusal = PaletteQuestions::refusalOfName(state.context_.store, state.entryOfFile());
     state.context_.services.dialogues.askName(
         std::move(question),
         whileAlive(state.alive_, [&state, then](const std::optional<NameAnswer>& answer) {
@@ -247,17 +241,8 @@ void AppState::Loading::askFileName(AppState& state, NameQuestion question,
 }
 
 void AppState::duplicatePalette() {
-    const auto entry = entryOfFile();
-    const bool isList =
-        entry.url.empty() || entry.group == PaletteStore::Entry::Group::colourPicker;
     Loading::askFileName(
-        *this,
-        {.title = SaveTexts::duplicateTitle(title()),
-         .note = std::string(isList ? SaveTexts::kCopyInPicker : SaveTexts::kCopyBeside),
-         .proposal = title() + " copy",
-         .button = "Duplicate",
-         .refusal = {},
-         .over = {}},
+        *this, PaletteQuestions::copyName(context_.store, entryOfFile(), title(), place()),
         &AppState::duplicatePalette);
 }
 

@@ -3,6 +3,7 @@
 #include "state/AppUndo.h"
 #include "state/Bench.h"
 #include "state/ContrastBoard.h"
+#include "state/ContrastSending.h"
 #include "state/CopiedColour.h"
 #include "state/NoticeTexts.h"
 #include "state/Preferences.h"
@@ -25,39 +26,8 @@ const BenchColumn* stagedCopy(const Bench& bench, WashColor colour) {
     return found == columns.end() ? nullptr : &*found;
 }
 
-/// A colour that found a place on the contrast board.
-struct Placed {
-    Uuid id;
-    std::optional<std::string> letGo; ///< name of the entry that made room
-    ContrastBoard::Content before;
-};
-
-using Place = std::optional<Uuid> (ContrastBoard::*)(std::optional<std::string>, const WashColor&);
-
-/// Puts a colour on the board by `place`, letting go of the oldest loose entry of a full one;
-/// nothing when there is none.
-std::optional<Placed> placed(ContrastBoard& board, Place place, std::optional<std::string> name,
-                             const WashColor& colour) {
-    Placed result{{}, {}, board.content().value()};
-    if (board.isFull()) {
-        const auto loose = board.letGoOfOldestLoose();
-        if (!loose) return std::nullopt;
-        result.letGo = board.name(*loose);
-    }
-    const auto id = (board.*place)(std::move(name), colour);
-    if (!id) return std::nullopt;
-    result.id = *id;
-    return result;
-}
-
-std::optional<ToastAction> undoOf(ContrastBoard& board, ContrastBoard::Content before) {
-    return ToastAction{"Undo",
-                       [&board, before = std::move(before)] { board.exchangeContent(before); }};
-}
-
-/// An action for what let an entry go; what merely adds needs none.
-std::optional<ToastAction> undoOf(ContrastBoard& board, Placed placed) {
-    return placed.letGo ? undoOf(board, std::move(placed.before)) : std::nullopt;
+ContrastSending contrastSending(const AppContext& context, ToastPlace from) {
+    return {context.contrast, context.services.toasts, from};
 }
 
 } // namespace
@@ -105,82 +75,39 @@ bool AppState::isBandBenched(const WashColor& colour) const {
 
 void AppState::sendToContrast(const WashColor& colour, std::optional<std::string> name,
                               ToastPlace where) {
-    auto& board = context_.contrast;
-    if (board.held(colour)) {
-        toast(alreadyInContrastText(colour), kBriefly, where);
-        return;
-    }
-    auto sent = placed(board, &ContrastBoard::send, std::move(name), colour);
-    if (!sent)
-        toast(contrastFullText(ContrastBoard::kCapacity), kBriefly, where);
-    else
-        toast(sentToContrastText(colour, sent->letGo), kBriefly, where, undoOf(board, *sent));
+    contrastSending(context_, where).send(colour, std::move(name));
 }
 
 void AppState::sendToContrast(const WashColor& colour, std::optional<std::string> name,
                               Contrast::Role as, ToastPlace where) {
-    auto& board = context_.contrast;
-    if (const auto* held = board.held(colour)) {
-        board.setRole(as, Uuid(held->id));
-        toast(roleInContrastText(colour, as, {}), kBriefly, where);
-        return;
-    }
-    auto sent = placed(board, &ContrastBoard::hold, std::move(name), colour);
-    if (!sent) {
-        toast(contrastFullText(ContrastBoard::kCapacity), kBriefly, where);
-        return;
-    }
-    board.setRole(as, sent->id);
-    toast(roleInContrastText(colour, as, sent->letGo), kBriefly, where, undoOf(board, *sent));
+    contrastSending(context_, where).send(colour, std::move(name), as);
 }
 
 void AppState::sendAllToContrast() {
     if (swatches().empty()) return;
+    std::vector<PaletteFile::Swatch> all;
+    for (const auto& swatch : swatches())
+        all.push_back({swatch.color, swatch.name});
+    contrastSending(context_, place()).sendAll(all);
     auto& board = context_.contrast;
-    ContrastBatch batch{swatches().size(), 0, 0, board.entries().size()};
-    for (const auto& swatch : swatches()) {
-        if (board.held(swatch.color))
-            ++batch.already;
-        else if (board.send(swatch.name, swatch.color))
-            ++batch.sent;
-    }
     if (board.entries().size() >= 3) board.mode = ContrastBoard::Mode::matrix;
     if (const auto& open = context_.preferences.windows.openContrastWindow) open();
-    if (auto text = contrastBatchText(batch, ContrastBoard::kCapacity))
-        toast(*std::move(text), kBriefly);
 }
 
 void AppState::toggleContrast(const WashColor& colour, std::optional<std::string> name,
                               ToastPlace where) {
-    auto& board = context_.contrast;
-    const auto* held = board.held(colour);
-    if (!held) {
-        sendToContrast(colour, std::move(name), where);
-        return;
-    }
-    auto before = board.content().value();
-    board.remove(Uuid(held->id));
-    toast(tookOffContrastText(colour), kBriefly, where, undoOf(board, std::move(before)));
+    contrastSending(context_, where).toggle(colour, std::move(name));
 }
 
 void AppState::sortContrastByLightness(bool lightestFirst, ToastPlace where) {
-    auto& board = context_.contrast;
-    const bool withinMatrix = board.mode.value() == ContrastBoard::Mode::matrix;
-    auto before = board.sortByLightness(lightestFirst, withinMatrix);
-    std::optional<ToastAction> undo;
-    if (before)
-        undo = ToastAction{"Undo", [&board, order = *before] { board.restoreOrder(order); }};
-    toast(sortedText(lightestFirst, before.has_value()), kBriefly, where, std::move(undo));
+    contrastSending(context_, where).sortByLightness(lightestFirst);
 }
 
 // The clipboard
 
 void AppState::copy(const WashColor& colour, const std::optional<std::string>& name,
                     std::optional<ColorFormat> as) {
-    auto& preferences = context_.preferences;
-    context_.services.clipboard.set(copiedColour(colour, name, as.value_or(preferences.format),
-                                                 preferences.formatOptions.value()));
-    preferences.remember(colour);
+    copyColour(context_.services, context_.preferences, colour, name, as);
     copyTick = copyTick.value() + 1;
 }
 

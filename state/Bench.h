@@ -1,6 +1,7 @@
 #pragma once
 
 #include "colour/Vision.h"
+#include "palettes/Swatch.h"
 #include "state/BenchContent.h"
 #include "state/Drag.h"
 #include "state/Geometry.h"
@@ -10,6 +11,7 @@
 #include <cstddef>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <utility>
 #include <variant>
@@ -86,6 +88,9 @@ public:
     /// A colour dropped before a column (none: at the end), with the notices and refusals of a
     /// send. A column of the Bench is moved instead.
     void receive(const Drag& drag, std::optional<Uuid> before);
+    /// Copies of pasted or dropped colours at the end, in one step, and says how many; colours that
+    /// the Bench holds are passed over. At most `kPaletteCapacity` at a time.
+    void receiveAll(std::span<const PaletteFile::Swatch> found);
     /// What would be said to a drop; nothing when it is taken.
     std::optional<std::string> refusal(const Drag& drag) const;
 

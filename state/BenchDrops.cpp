@@ -1,6 +1,10 @@
 #include "state/Bench.h"
 #include "state/NoticeTexts.h"
 
+#include <algorithm>
+#include <set>
+#include <string>
+
 namespace tintra {
 namespace {
 
@@ -31,6 +35,29 @@ void Bench::receive(const Drag& drag, std::optional<Uuid> before) {
     const auto place = before ? content_.value().indexOfColumn(*before) : std::nullopt;
     insert(columnFor(drag), place.value_or(benchColumns().size()));
     say(takenText(drag), kBriefly);
+}
+
+void Bench::receiveAll(std::span<const PaletteFile::Swatch> found) {
+    if (found.size() == 1)
+        return receive({found[0].color, found[0].name, DragOfForeignColour{}}, std::nullopt);
+    auto to = content_.value();
+    auto active = benchActive.value();
+    std::set<std::string> held;
+    for (const auto& column : to.columns)
+        held.insert(currentColor(column).identity());
+    std::size_t added = 0, already = 0;
+    for (const auto& swatch : found.first(std::min(found.size(), kPaletteCapacity))) {
+        if (!held.insert(opaque(swatch.color).identity()).second) {
+            ++already;
+            continue;
+        }
+        to.columns.push_back(stagedColumn(swatch.color, swatch.name));
+        active = BenchSelection{BenchSelection::Of::column, to.columns.back().id};
+        ++added;
+    }
+    if (found.empty()) return;
+    change(std::move(to), active);
+    say(benchBatchText(added, already), kForCounts);
 }
 
 void Bench::moveBefore(const Uuid& column, std::optional<Uuid> before) {

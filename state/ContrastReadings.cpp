@@ -61,6 +61,48 @@ std::vector<ContrastLadder::Rung> rungsOf(const std::vector<ContrastLadder::Row>
     return rungs;
 }
 
+/// The names of the colours before rows and above columns, and the figures between.
+std::vector<std::vector<std::string>> matrixCells(const ContrastBoard& board) {
+    const auto terms = contrastTerms(board);
+    const auto entries = board.matrixEntries();
+    const bool rowsAreText = board.matrixRowsAreText;
+    std::vector<std::vector<std::string>> rows(1, {""});
+    for (const auto& column : entries)
+        rows.front().push_back(board.name(column));
+    for (const auto& row : entries) {
+        auto& cells = rows.emplace_back(1, board.name(row));
+        for (const auto& column : entries) {
+            const auto& text = rowsAreText ? row : column;
+            const auto& ground = rowsAreText ? column : row;
+            cells.push_back(
+                row.id == column.id
+                    ? ""
+                    : cell(contrastReading(text.color, ground.color, terms), terms.measure));
+        }
+    }
+    return rows;
+}
+
+std::string escaped(std::string_view text) {
+    std::string html;
+    for (const char c : text) {
+        switch (c) {
+        case '&':
+            html += "&amp;";
+            break;
+        case '<':
+            html += "&lt;";
+            break;
+        case '>':
+            html += "&gt;";
+            break;
+        default:
+            html += c;
+        }
+    }
+    return html;
+}
+
 } // namespace
 
 ContrastTerms contrastTerms(const ContrastBoard& board) {
@@ -97,23 +139,28 @@ ContrastLadder contrastLadder(const ContrastBoard& board) {
 }
 
 std::string contrastMatrixTable(const ContrastBoard& board) {
-    const auto terms = contrastTerms(board);
-    const auto entries = board.matrixEntries();
-    const bool rowsAreText = board.matrixRowsAreText;
     std::string table;
-    for (const auto& column : entries)
-        table += "\t" + board.name(column);
-    for (const auto& row : entries) {
-        table += "\n" + board.name(row);
-        for (const auto& column : entries) {
-            table += '\t';
-            if (row.id == column.id) continue;
-            const auto& text = rowsAreText ? row : column;
-            const auto& ground = rowsAreText ? column : row;
-            table += cell(contrastReading(text.color, ground.color, terms), terms.measure);
-        }
+    for (const auto& row : matrixCells(board)) {
+        for (std::size_t i = 0; i < row.size(); ++i)
+            table += (i > 0 ? "\t" : "") + row[i];
+        table += '\n';
     }
-    return table + "\n";
+    return table;
+}
+
+std::string contrastMatrixHtml(const ContrastBoard& board) {
+    std::string table = "<table>\n";
+    const auto rows = matrixCells(board);
+    for (std::size_t r = 0; r < rows.size(); ++r) {
+        table += "<tr>";
+        for (std::size_t c = 0; c < rows[r].size(); ++c) {
+            const std::string_view tag = r == 0 || c == 0 ? "th>" : "td>";
+            ((table += '<') += tag) += escaped(rows[r][c]);
+            (table += "</") += tag;
+        }
+        table += "</tr>\n";
+    }
+    return table + "</table>\n";
 }
 
 } // namespace tintra

@@ -59,5 +59,7 @@ ContrastLadder contrastLadder(const ContrastBoard& board);
 /// The matrix as tab-separated lines, with the names of the colours before rows and above columns;
 /// a cell is the figure and the mark of its grade, and empty for a colour on itself.
 std::string contrastMatrixTable(const ContrastBoard& board);
+/// The same as an HTML table.
+std::string contrastMatrixHtml(const ContrastBoard& board);
 
 } // namespace tintra

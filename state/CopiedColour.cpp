@@ -1,6 +1,8 @@
 #include "state/CopiedColour.h"
 
 #include "colour/ColorNames.h"
+#include "platform/Services.h"
+#include "state/Preferences.h"
 
 namespace tintra {
 namespace {
@@ -29,6 +31,13 @@ Clipboard::Content copiedColours(std::span<const WashColor> colours,
             code(colours[i], i < names.size() ? names[i] : std::nullopt, format, options);
     }
     return content;
+}
+
+void copyColour(Services& services, Preferences& preferences, const WashColor& colour,
+                const std::optional<std::string>& name, std::optional<ColorFormat> as) {
+    services.clipboard.set(copiedColour(colour, name, as.value_or(preferences.format),
+                                        preferences.formatOptions.value()));
+    preferences.remember(colour);
 }
 
 } // namespace tintra

@@ -11,6 +11,9 @@
 
 namespace tintra {
 
+class Preferences;
+struct Services;
+
 /// The code, and the colour for programs that take one.
 Clipboard::Content copiedColour(const WashColor& colour, const std::optional<std::string>& name,
                                 ColorFormat format, const FormatOptions& options);
@@ -19,5 +22,10 @@ Clipboard::Content copiedColour(const WashColor& colour, const std::optional<std
 Clipboard::Content copiedColours(std::span<const WashColor> colours,
                                  std::span<const std::optional<std::string>> names,
                                  ColorFormat format, const FormatOptions& options);
+
+/// Puts a colour on the clipboard, in the format of the preferences unless another is asked for,
+/// and remembers it. Main loop.
+void copyColour(Services& services, Preferences& preferences, const WashColor& colour,
+                const std::optional<std::string>& name, std::optional<ColorFormat> as = {});
 
 } // namespace tintra

@@ -44,6 +44,13 @@ std::string addedToBenchText(const WashColor& color) {
     return fmt::format("Added {} to the Bench", noticeCode(color));
 }
 
+std::string benchBatchText(std::size_t added, std::size_t already) {
+    if (added == 0) return fmt::format("All {} already on the Bench", already);
+    auto text = fmt::format("Added {} to the Bench", added);
+    if (already > 0) text += fmt::format(" · {} already there", already);
+    return text;
+}
+
 std::string stagedCopyText(const WashColor& color) {
     return fmt::format("Staged {} on the Bench · a copy, so edits there leave the harmony as it is",
                        noticeCode(color));
@@ -65,6 +72,10 @@ std::string alreadyInContrastText(const WashColor& color) {
 
 std::string tookOffContrastText(const WashColor& color) {
     return fmt::format("Took {} off Contrast", noticeCode(color));
+}
+
+std::string replacedInContrastText(const WashColor& was, const WashColor& is) {
+    return fmt::format("Replaced {} with {}", noticeCode(was), noticeCode(is));
 }
 
 std::string contrastFullText(std::size_t capacity) {

@@ -42,6 +42,8 @@ inline constexpr std::string_view kMoveRefusalText =
 std::string addedToBenchText(const WashColor& color);
 std::string stagedCopyText(const WashColor& color);
 std::string tookOffBenchText(const WashColor& color);
+/// Of colours that were put on the Bench together.
+std::string benchBatchText(std::size_t added, std::size_t already);
 /// `origin` as the Bench describes it.
 std::string alreadyOnBenchText(const WashColor& color, std::string_view origin);
 
@@ -49,6 +51,7 @@ std::string alreadyOnBenchText(const WashColor& color, std::string_view origin);
 
 std::string alreadyInContrastText(const WashColor& color);
 std::string tookOffContrastText(const WashColor& color);
+std::string replacedInContrastText(const WashColor& was, const WashColor& is);
 std::string contrastFullText(std::size_t capacity);
 /// `letGo`: the name of the colour that made room; none when there was room.
 std::string sentToContrastText(const WashColor& color, const std::optional<std::string>& letGo);

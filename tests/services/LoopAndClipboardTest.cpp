@@ -77,6 +77,10 @@ TEST(Clipboards, TextAndColourComeBackAndNothingElse) {
     EXPECT_TRUE(
         QGuiApplication::clipboard()->mimeData()->hasFormat(QStringLiteral("application/x-color")));
 
+    clipboard.set({"1\t2", {}, {}, "<table></table>"});
+    EXPECT_EQ(QGuiApplication::clipboard()->mimeData()->html(), QStringLiteral("<table></table>"));
+    EXPECT_EQ(clipboard.content().text, "1\t2");
+
     auto* other = new QMimeData;
     other->setData(QStringLiteral("image/png"), "x");
     QGuiApplication::clipboard()->setMimeData(other);

@@ -52,6 +52,9 @@ public:
         asked.push_back("close palette");
         if (closing) closing(id);
     }
+    void openBench() override { asked.push_back("bench"); }
+    void openContrast() override { asked.push_back("contrast"); }
+    void openLibrary() override { asked.push_back("library"); }
     void openSettings() override { asked.push_back("settings"); }
     void openShortcuts() override { asked.push_back("shortcuts"); }
     void openAbout() override { asked.push_back("about"); }

@@ -31,7 +31,7 @@ TEST(EmptyStateTest, TheQuotationGivesWayAndTheActionsNever) {
                     EXPECT_TRUE(&one == &other || room.height() < 100 ||
                                 !one.rect.intersects(other.rect));
             }
-            EXPECT_EQ(actions, 3);
+            EXPECT_EQ(actions, 4);
             if (size == TypeSize::regular) {
                 EXPECT_EQ(quotations, quotes);
             }
@@ -51,9 +51,12 @@ TEST(EmptyStateTest, BeginsByKeyAndByMouse) {
     press("Down");
     press("Space");
     press("Down");
+    press("Return");
+    press("Down");
     press("Down");
     press("Return");
     EXPECT_EQ(desk.desktop.dialogues.openQuestions.size(), 2U) << "a picture, then a palette";
+    EXPECT_EQ(desk.windows.taken(), std::vector<std::string>{"library"});
     for (const auto& item : empty.items())
         click(empty, item.rect.center());
     EXPECT_EQ(sheets, 2);

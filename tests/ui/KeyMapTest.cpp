@@ -103,6 +103,13 @@ const KeyCase kKeys[] = {
     {"Ctrl+E", [](Shown& s) { return s.state.editorBuffer.value().has_value(); }},
     {"Ctrl+I", [](Shown& s) { return s.state.isPictureWindowOpen.value(); }},
     {"Ctrl+M", [](Shown& s) { return s.state.isCollapsed.value(); }},
+    {"Ctrl+F",
+     [](Shown& s) {
+         return asked(s, "library") && s.desk.models.preferences().libraryFindRequested.value();
+     }},
+    {"Ctrl+L", [](Shown& s) { return asked(s, "library"); }},
+    {"Ctrl+B", [](Shown& s) { return asked(s, "bench"); }},
+    {"Ctrl+T", [](Shown& s) { return asked(s, "contrast"); }},
     {"F1", [](Shown& s) { return asked(s, "shortcuts"); }},
     {"V", [](Shown& s) { return s.state.vision.value() == Vision::protanopia; }},
     {"Shift+V", [](Shown& s) { return s.state.vision.value() == Vision::typical; },
@@ -166,6 +173,17 @@ TEST(Keys, OfACanvasRestWhileAToolHasTheKeyboard) {
     EXPECT_EQ(shown.state.swatches().size(), 2U);
 }
 
+TEST(Keys, TabWalksTheToolsFromTheModeToMore) {
+    Shown shown;
+    press("F6");
+    press("F6");
+    std::vector<std::string> tools;
+    for (int i = 0; i < 11; ++i, press("Tab"))
+        tools.push_back(toUtf8(QApplication::focusWidget()->accessibleName()));
+    EXPECT_EQ(tools.front(), "Mode: Palette");
+    EXPECT_EQ(tools.back(), "More");
+}
+
 TEST(Keys, GoBackToTheSwatchesWhenTheEditorCloses) {
     Shown shown;
     auto* canvas = QApplication::focusWidget();
@@ -193,31 +211,34 @@ TEST(Keys, SpaceShowsTheColourAloneWhileHeld) {
 TEST(Actions, AreEachInTheirMenuOnceWithTitleAndKey) {
     Shown shown;
     std::set<std::string_view> raws;
-    std::set<std::string> keys;
+    std::set<std::pair<WindowKind, std::string>> keys;
     for (const auto& row : allActions()) {
         EXPECT_TRUE(raws.insert(row.raw).second) << row.raw << " stands twice";
         EXPECT_TRUE(row.perform || row.fill) << row.raw;
         for (const auto& key : keySequences(row)) {
             EXPECT_FALSE(key.isEmpty()) << row.raw;
-            EXPECT_TRUE(keys.insert(toUtf8(key.toString())).second)
-                << row.raw << " shares " << toUtf8(key.toString());
+            for (const auto kind : {WindowKind::palette, WindowKind::bench, WindowKind::contrast,
+                                    WindowKind::library})
+                EXPECT_TRUE(!row.in.contains(kind) ||
+                            keys.emplace(kind, toUtf8(key.toString())).second)
+                    << row.raw << " shares " << toUtf8(key.toString());
         }
         const auto listed = actionsOf(row.menu);
         EXPECT_EQ(std::ranges::count(listed, row.value), row.menu == MenuId::none ? 0 : 1)
             << row.raw;
     }
     QMenu menu;
-    fillMenu(menu, MenuId::swatch, {shown.desk.ui, &shown.window});
+    fillMenu(menu, MenuId::swatch, shown.window.context());
     QStringList titles;
     for (const auto* action : menu.actions())
         titles << action->text();
     EXPECT_TRUE(titles.contains(QStringLiteral("Put on the Bench")));
     EXPECT_FALSE(titles.contains(QStringLiteral("Send to Photoshop"))) << "not installed";
     shown.state.toggleBenchedSwatch(1);
-    EXPECT_EQ(actionTitle(actionRow(ActionId::toggleBench), {shown.desk.ui, &shown.window}),
+    EXPECT_EQ(actionTitle(actionRow(ActionId::toggleBench), shown.window.context()),
               QStringLiteral("Take off the Bench"));
     shown.state.mode = HarmonyMode::ramp;
-    EXPECT_EQ(actionTitle(actionRow(ActionId::clear), {shown.desk.ui, &shown.window}),
+    EXPECT_EQ(actionTitle(actionRow(ActionId::clear), shown.window.context()),
               QStringLiteral("Clear Seeds"));
 }
 

@@ -292,7 +292,7 @@ TEST(PaletteWindow, RemembersWhichFilesWereOpened) {
     Desk desk;
     auto& state = desk.stateWith(0);
     PaletteWindow window(desk.ui, state);
-    const ActionContext context{desk.ui, &window};
+    const auto context = window.context();
     EXPECT_FALSE(isEnabled(actionRow(ActionId::openRecent), context));
     for (const auto* name : {"one.gpl", "two.gpl", "one.gpl"}) {
         state.open(desk.folder.write(name, "GIMP Palette\n1 2 3 One\n"));

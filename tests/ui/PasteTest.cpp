@@ -29,7 +29,7 @@ protected:
         beneath.setGeometry(window.rect());
         beneath.show();
         beneath.setFocus();
-        sheet = std::make_unique<PasteSheet>(desk.ui, desk.state(), &window);
+        sheet = std::make_unique<PasteSheet>(desk.ui, pasteTarget(desk.state()), &window);
         sheet->present();
     }
 

@@ -134,7 +134,7 @@ TEST(StripTest, IsWorkedWithoutUnfoldingIt) {
     EXPECT_EQ(desk.models.contrast().entries()[0].color, state.last());
     state.mode = HarmonyMode::paletteBuilder;
     EXPECT_TRUE(state.isCollapsed.value());
-    EXPECT_TRUE(perform(ActionId::renameSwatch, {desk.ui, &window}));
+    EXPECT_TRUE(perform(ActionId::renameSwatch, window.context()));
     EXPECT_FALSE(state.isCollapsed.value()) << "a name is edited where it can be seen";
     EXPECT_TRUE(accessible(window, "Name of the swatch"));
 }

@@ -1,6 +1,7 @@
 #include "ui/actions/ActionTable.h"
 
 #include "ui/actions/ActionRows.h"
+#include "ui/frame/MainWindow.h"
 #include "ui/shared/Text.h"
 
 #include <QStringList>
@@ -13,10 +14,15 @@ namespace {
 std::vector<ActionRow> gathered() {
     std::vector<ActionRow> rows;
     for (const auto& part : {actionRows::ofFile(), actionRows::ofEdit(), actionRows::ofPalette(),
-                             actionRows::ofSwatch(), actionRows::ofView(), actionRows::ofWindow(),
-                             actionRows::ofKeys()})
+                             actionRows::ofSwatch(), actionRows::ofBench(),
+                             actionRows::ofContrast(), actionRows::ofLibrary(),
+                             actionRows::ofView(), actionRows::ofWindow(), actionRows::ofKeys()})
         rows.insert(rows.end(), part.begin(), part.end());
     return rows;
+}
+
+bool isIn(const ActionRow& row, const ActionContext& context) {
+    return context.window && row.in.contains(context.window->kind());
 }
 
 } // namespace
@@ -45,11 +51,11 @@ QString keyText(const ActionRow& row) {
 }
 
 QString actionTitle(const ActionRow& row, const ActionContext& context) {
-    return row.title && context.window ? row.title(context) : worded(row.text);
+    return row.title && isIn(row, context) ? row.title(context) : worded(row.text);
 }
 
 bool isEnabled(const ActionRow& row, const ActionContext& context) {
-    return context.window && (!row.isEnabled || row.isEnabled(context));
+    return isIn(row, context) && (!row.isEnabled || row.isEnabled(context));
 }
 
 bool perform(ActionId id, const ActionContext& context) {

@@ -10,6 +10,10 @@ class QMenu;
 
 namespace tintra {
 
+class BenchWindow;
+class ContrastWindow;
+class LibraryWindow;
+class MainWindow;
 class PaletteWindow;
 struct Ui;
 
@@ -39,6 +43,7 @@ enum class ActionId {
     pasteColours,
     typeOrPaste,
     clear,
+    findInLibrary,
     settings,
     // Palette
     addBlankSwatch,
@@ -63,7 +68,54 @@ enum class ActionId {
     sendToPhotoshop,
     sendToIllustrator,
     removeSwatch,
+    // Bench
+    benchMix,
+    benchMixWith,
+    benchKeep,
+    benchAdjust,
+    benchAddToPalette,
+    benchRename,
+    benchMoveLeft,
+    benchMoveRight,
+    benchTakeOff,
+    // Contrast
+    showPair,
+    showMatrix,
+    showLadder,
+    measureWcag,
+    measureApca,
+    contrastTarget,
+    useAsText,
+    useAsGround,
+    swapRoles,
+    editSpecimen,
+    sortDarkToLight,
+    sortLightToDark,
+    sortByLightness,
+    copyFigure,
+    copyMatrix,
+    addEntryToPalette,
+    putEntryOnBench,
+    renameEntry,
+    moveEntryUp,
+    moveEntryDown,
+    removeEntry,
+    // Library
+    openListed,
+    openListedInNewWindow,
+    installListed,
+    installListedFor,
+    duplicateListed,
+    revealListed,
+    trashListed,
+    addListedSwatch,
+    benchListedSwatch,
+    addLocation,
+    rescanLibrary,
+    sortLibrary,
     // View
+    libraryRows,
+    libraryTiles,
     columns,
     tiles,
     colourEditor,
@@ -74,6 +126,9 @@ enum class ActionId {
     alwaysOnTop,
     showMenuBar,
     // Window
+    openLibrary,
+    openBench,
+    openContrast,
     openWindows,
     // Help
     shortcuts,
@@ -100,13 +155,53 @@ enum class ActionId {
     copyFavourite9,
 };
 
-/// The menus of the bar, in order; `none` for what only has a key.
-enum class MenuId { file, edit, palette, swatch, view, window, help, none };
+/// The menus of all bars, in order; `none` for what only has a key.
+enum class MenuId {
+    file,
+    edit,
+    palette,
+    swatch,
+    bench,
+    contrast,
+    library,
+    view,
+    window,
+    help,
+    none
+};
+
+/// The kinds of main windows.
+enum class WindowKind : unsigned { palette = 1, bench = 2, contrast = 4, library = 8 };
+
+/// A set of them.
+class WindowKinds {
+public:
+    constexpr WindowKinds(WindowKind kind) : kinds_(static_cast<unsigned>(kind)) {}
+    constexpr bool contains(WindowKind kind) const {
+        return (kinds_ & static_cast<unsigned>(kind)) != 0;
+    }
+    friend constexpr WindowKinds operator|(WindowKinds one, WindowKinds other) {
+        one.kinds_ |= other.kinds_;
+        return one;
+    }
+
+private:
+    unsigned kinds_;
+};
+/// Those that show colours to look at, with a kind of vision.
+inline constexpr auto kColourWindows =
+    WindowKinds(WindowKind::palette) | WindowKind::bench | WindowKind::contrast;
+inline constexpr auto kEveryWindow = kColourWindows | WindowKind::library;
 
 /// What an action acts on.
 struct ActionContext {
     Ui& ui;
-    PaletteWindow* window; ///< the window in front; none when no palette window is
+    MainWindow* window = nullptr; ///< in front; none when no main window is
+    // The same by its kind; the others are null.
+    PaletteWindow* palette = nullptr;
+    BenchWindow* bench = nullptr;
+    ContrastWindow* contrast = nullptr;
+    LibraryWindow* library = nullptr;
 };
 
 /// Where a key acts.
@@ -121,8 +216,10 @@ struct ActionRow {
     const char* text;      ///< English source, with an ellipsis when it asks further
     const char* keys = ""; ///< portable key texts, separated by "; "; empty for none
     KeyScope scope = KeyScope::window;
+    /// Where it is found and its keys act; several rows may share a key in different windows.
+    WindowKinds in = WindowKind::palette;
     MenuId menu = MenuId::none;
-    bool (*isEnabled)(const ActionContext&) = nullptr; ///< null: whenever a window is there
+    bool (*isEnabled)(const ActionContext&) = nullptr; ///< null: always, in such a window
     void (*perform)(const ActionContext&) = nullptr;   ///< null for what only opens a menu
     bool (*isOn)(const ActionContext&) = nullptr;      ///< null for what is not switched
     QString (*title)(const ActionContext&) = nullptr;  ///< null when `text` is the title

@@ -33,13 +33,12 @@ QString recentTitle(const std::filesystem::path& file,
 }
 
 void fillRecent(QMenu& menu, const Context& context) {
-    auto& of = state(context);
     auto& recent = context.ui.models.recentPalettes();
     const auto& files = recent.files().value();
     for (const auto& file : files) {
         auto title = recentTitle(file, files);
         title.replace(u'&', QStringLiteral("&&"));
-        menu.addAction(title, &menu, [&of, file] { of.open(file); });
+        menu.addAction(title, &menu, [context, file] { stateInFront(context).open(file); });
     }
     menu.addSeparator();
     menu.addAction(worded("Clear the List"), &menu, [&recent] { recent.clear(); });
@@ -64,17 +63,20 @@ const ActionRow kRows[] = {
      .raw = "newPaletteHere",
      .text = "New Palette Here",
      .keys = "Ctrl+Shift+N",
+     .in = kEveryWindow,
      .menu = MenuId::file,
      .perform = [](const Context& c) { c.ui.models.workspaces().openExtra(); }},
     {.value = ActionId::open,
      .raw = "open",
      .text = "Open…",
      .keys = "Ctrl+O",
+     .in = kEveryWindow,
      .menu = MenuId::file,
-     .perform = [](const Context& c) { state(c).open(); }},
+     .perform = [](const Context& c) { stateInFront(c).open(); }},
     {.value = ActionId::openRecent,
      .raw = "openRecent",
      .text = "Open Recent",
+     .in = kEveryWindow,
      .menu = MenuId::file,
      .isEnabled = hasRecent,
      .fill = fillRecent},
@@ -91,7 +93,7 @@ const ActionRow kRows[] = {
      .keys = "Ctrl+Shift+S",
      .menu = MenuId::file,
      .isEnabled = hasSwatches,
-     .perform = [](const Context& c) { c.window->showExport(); }},
+     .perform = [](const Context& c) { c.palette->showExport(); }},
     {.value = ActionId::duplicatePalette,
      .raw = "duplicatePalette",
      .text = "Duplicate Palette…",
@@ -134,17 +136,28 @@ const ActionRow kRows[] = {
      .raw = "close",
      .text = "Close",
      .keys = "Ctrl+W",
+     .in = kEveryWindow,
      .menu = MenuId::file,
      .perform = [](const Context& c) { c.window->close(); }},
     {.value = ActionId::quit,
      .raw = "quit",
      .text = "Quit",
      .keys = "Ctrl+Q",
+     .in = kEveryWindow,
      .menu = MenuId::file,
      .perform = [](const Context& c) { c.ui.windows.quit(); }},
 };
 
 } // namespace
+
+AppState& stateInFront(const Context& context) {
+    if (context.palette) return state(context);
+    auto& workspaces = context.ui.models.workspaces();
+    auto* front = workspaces.front();
+    auto& state = front ? *front : workspaces.openPrimary();
+    context.ui.windows.openPalette(state.id());
+    return state;
+}
 
 std::span<const ActionRow> ofFile() {
     return kRows;

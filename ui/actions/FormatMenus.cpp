@@ -99,12 +99,11 @@ void fillFormatMenu(QMenu& menu, Ui& ui, bool marksCurrent, Chosen chosen) {
     });
 }
 
-void fillVisionMenu(QMenu& menu, AppState& state, const Theme& theme) {
-    for (const auto vision : allVisions()) {
-        auto title = shown(tintra::title(vision));
-        if (!detail(vision).empty()) title += u'\n' + shown(detail(vision));
-        addChoice(menu, title, state.vision.value() == vision,
-                  [&state, vision] { state.vision = vision; });
+void fillVisionMenu(QMenu& menu, QProperty<Vision>& vision, const Theme& theme) {
+    for (const auto kind : allVisions()) {
+        auto title = shown(tintra::title(kind));
+        if (!detail(kind).empty()) title += u'\n' + shown(detail(kind));
+        addChoice(menu, title, vision.value() == kind, [&vision, kind] { vision = kind; });
     }
     menu.addSeparator();
     addNote(menu, shown(kVisionNote), theme);

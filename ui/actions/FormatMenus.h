@@ -1,8 +1,10 @@
 #pragma once
 
 #include "colour/ColorFormat.h"
+#include "colour/Vision.h"
 #include "ui/Ui.h"
 
+#include <QProperty>
 #include <functional>
 
 class QMenu;
@@ -17,8 +19,9 @@ class Theme;
 void fillFormatMenu(QMenu& menu, Ui& ui, bool marksCurrent,
                     std::function<void(ColorFormat)> chosen);
 
-/// The kinds of colour vision with what they are, and what seeing with them changes.
-void fillVisionMenu(QMenu& menu, AppState& state, const Theme& theme);
+/// The kinds of colour vision with what they are, and what seeing with them changes. `vision` is
+/// what is set.
+void fillVisionMenu(QMenu& menu, QProperty<Vision>& vision, const Theme& theme);
 
 /// The modes of a palette window: the harmonies, then the palette itself.
 void fillModeMenu(QMenu& menu, AppState& state);

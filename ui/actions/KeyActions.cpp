@@ -12,7 +12,7 @@ namespace tintra::actionRows {
 namespace {
 
 void nextVision(const Context& context) {
-    auto& vision = state(context).vision;
+    auto& vision = *context.window->vision();
     const auto all = allVisions();
     const auto now = std::ranges::find(all, vision.value());
     vision = now == all.end() || now + 1 == all.end() ? all.front() : *(now + 1);
@@ -21,9 +21,7 @@ void nextVision(const Context& context) {
 template <std::size_t place>
 void copyFavourite(const Context& context) {
     const auto favourites = context.ui.models.preferences().formatFavourites.value();
-    withTarget(context, [&](AppState& of, const Target& target) {
-        of.copy(target.color, target.name, favourites[place]);
-    });
+    context.window->copy(favourites[place]);
 }
 
 template <std::size_t place>
@@ -40,6 +38,7 @@ constexpr ActionRow favouriteRow(ActionId id, std::string_view raw, const char* 
             .text = text,
             .keys = key,
             .scope = KeyScope::canvas,
+            .in = kEveryWindow,
             .isEnabled = hasFavourite<place>,
             .perform = copyFavourite<place>};
 }
@@ -50,46 +49,53 @@ const ActionRow kRows[] = {
      .text = "Next Kind of Vision",
      .keys = "V",
      .scope = KeyScope::canvas,
+     .in = kColourWindows,
      .perform = nextVision},
     {.value = ActionId::typicalVision,
      .raw = "typicalVision",
      .text = "Typical Vision",
      .keys = "Shift+V",
      .scope = KeyScope::canvas,
-     .perform = [](const Context& c) { state(c).vision = Vision::typical; }},
+     .in = kColourWindows,
+     .perform = [](const Context& c) { *c.window->vision() = Vision::typical; }},
     {.value = ActionId::peek,
      .raw = "peek",
      .text = "See the Colour Alone, While Held",
      .keys = "Space",
      .scope = KeyScope::canvas,
      .isEnabled = hasSwatch,
-     .perform = [](const Context& c) { c.window->setPeeking(true); }},
+     .perform = [](const Context& c) { c.palette->setPeeking(true); }},
     {.value = ActionId::nextRegion,
      .raw = "nextRegion",
      .text = "Next Region",
      .keys = "F6",
+     .in = kEveryWindow,
      .perform = [](const Context& c) { c.window->focusRegion(1); }},
     {.value = ActionId::previousRegion,
      .raw = "previousRegion",
      .text = "Previous Region",
      .keys = "Shift+F6",
+     .in = kEveryWindow,
      .perform = [](const Context& c) { c.window->focusRegion(-1); }},
     {.value = ActionId::focusNotice,
      .raw = "focusNotice",
      .text = "Go to the Notice",
      .keys = "F8",
+     .in = kEveryWindow,
      .isEnabled = [](const Context& c) { return c.window->notices().isVisible(); },
      .perform = [](const Context& c) { c.window->notices().setFocus(Qt::ShortcutFocusReason); }},
     {.value = ActionId::focusMenuBar,
      .raw = "focusMenuBar",
      .text = "Open the Menu Bar",
      .keys = "F10",
+     .in = kEveryWindow,
      .perform = [](const Context& c) { c.window->openMenuBar(); }},
     {.value = ActionId::contextMenu,
      .raw = "contextMenu",
      .text = "Context Menu",
      .keys = "Shift+F10; Menu",
      .scope = KeyScope::canvas,
+     .in = kEveryWindow,
      .perform = [](const Context& c) { c.window->showContextMenu(); }},
     favouriteRow<0>(ActionId::copyFavourite1, "copyFavourite1", "Copy as Favourite 1", "1"),
     favouriteRow<1>(ActionId::copyFavourite2, "copyFavourite2", "Copy as Favourite 2", "2"),

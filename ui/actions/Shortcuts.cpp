@@ -1,14 +1,16 @@
 #include "ui/actions/Shortcuts.h"
 
+#include "ui/frame/MainWindow.h"
+
 #include <QKeyEvent>
 #include <QShortcut>
 #include <QWidget>
 
 namespace tintra {
 
-void installShortcuts(QWidget& window, const ContextOf& context) {
+void installShortcuts(QWidget& window, WindowKind kind, const ContextOf& context) {
     for (const auto& row : allActions()) {
-        if (row.scope != KeyScope::window || !row.perform) continue;
+        if (row.scope != KeyScope::window || !row.perform || !row.in.contains(kind)) continue;
         for (const auto& keys : keySequences(row)) {
             auto* shortcut = new QShortcut(keys, &window);
             const auto act = [id = row.value, context] { perform(id, context()); };
@@ -24,7 +26,8 @@ bool performCanvasKey(const QKeyEvent& event, const ActionContext& context) {
     const auto held = event.modifiers() & ~Qt::KeypadModifier;
     const QKeySequence pressed(QKeyCombination(held, static_cast<Qt::Key>(event.key())));
     for (const auto& row : allActions())
-        if (row.scope == KeyScope::canvas && keySequences(row).contains(pressed))
+        if (row.scope == KeyScope::canvas && row.in.contains(context.window->kind()) &&
+            keySequences(row).contains(pressed))
             return perform(row.value, context);
     return false;
 }

@@ -7,9 +7,9 @@ class QWidget;
 
 namespace tintra {
 
-/// Makes the keys of the table that belong to a window act anywhere in it. For those of a canvas
-/// the window hands `performCanvasKey` what a focused canvas has left.
-void installShortcuts(QWidget& window, const ContextOf& context);
+/// Makes the keys of the table that belong to such a window act anywhere in it. For those of a
+/// canvas the window hands `performCanvasKey` what a focused canvas has left.
+void installShortcuts(QWidget& window, WindowKind kind, const ContextOf& context);
 
 /// Performs a row whose keys act on a canvas; answers whether one was. Such keys, single letters
 /// among them, are no shortcuts of the toolkit, so a field that has the keyboard gets them first.

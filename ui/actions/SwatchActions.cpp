@@ -4,6 +4,7 @@
 #include "integration/AdobeBridge.h"
 #include "platform/Services.h"
 #include "platform/Toasts.h"
+#include "state/ContrastSending.h"
 #include "state/Models.h"
 #include "state/NoticeTexts.h"
 #include "ui/actions/ActionRows.h"
@@ -14,6 +15,10 @@
 
 namespace tintra::actionRows {
 namespace {
+
+/// Those whose colours are sent to Contrast.
+constexpr auto kSendingWindows =
+    WindowKinds(WindowKind::palette) | WindowKind::bench | WindowKind::library;
 
 bool isBenched(const Context& context) {
     const auto target = context.window->target();
@@ -31,17 +36,19 @@ void toggleBench(const Context& context) {
     });
 }
 
+ContrastSending contrastFrom(const Context& context) {
+    return {context.ui.models.contrast(), context.ui.services.toasts, context.window->place()};
+}
+
 void sendToContrast(const Context& context) {
-    withTarget(context, [](AppState& of, const Target& target) {
-        of.sendToContrast(target.color, target.name, of.place());
-    });
+    if (const auto target = context.window->target())
+        contrastFrom(context).send(target->color, target->name);
 }
 
 template <Contrast::Role role>
 void sendAs(const Context& context) {
-    withTarget(context, [](AppState& of, const Target& target) {
-        of.sendToContrast(target.color, target.name, role, of.place());
-    });
+    if (const auto target = context.window->target())
+        contrastFrom(context).send(target->color, target->name, role);
 }
 
 template <AppState::SeedRole role>
@@ -88,7 +95,7 @@ const ActionRow kRows[] = {
      .perform =
          [](const Context& c) {
              unfold(c);
-             c.window->beginRename();
+             c.palette->beginRename();
          }},
     {.value = ActionId::editColour,
      .raw = "editColour",
@@ -119,6 +126,7 @@ const ActionRow kRows[] = {
      .text = "Send to Contrast",
      .keys = "K",
      .scope = KeyScope::canvas,
+     .in = kSendingWindows,
      .menu = MenuId::swatch,
      .isEnabled = hasTarget,
      .perform = sendToContrast},
@@ -127,6 +135,7 @@ const ActionRow kRows[] = {
      .text = "Send to Contrast as Text",
      .keys = "Shift+K",
      .scope = KeyScope::canvas,
+     .in = kSendingWindows,
      .menu = MenuId::swatch,
      .isEnabled = hasTarget,
      .perform = sendAs<Contrast::Role::text>},
@@ -135,6 +144,7 @@ const ActionRow kRows[] = {
      .text = "Send to Contrast as Ground",
      .keys = "Ctrl+K",
      .scope = KeyScope::canvas,
+     .in = kSendingWindows,
      .menu = MenuId::swatch,
      .isEnabled = hasTarget,
      .perform = sendAs<Contrast::Role::ground>},

@@ -10,7 +10,7 @@ namespace tintra::actionRows {
 namespace {
 
 bool shows(const Context& context, PaletteDisplay display) {
-    return context.window->display() == display;
+    return context.palette->display() == display;
 }
 
 void togglePicturePane(const Context& context) {
@@ -40,7 +40,7 @@ const ActionRow kRows[] = {
      .keys = "Ctrl+1",
      .menu = MenuId::view,
      .isEnabled = isBuilder,
-     .perform = [](const Context& c) { c.window->setDisplay(PaletteDisplay::columns); },
+     .perform = [](const Context& c) { c.palette->setDisplay(PaletteDisplay::columns); },
      .isOn = [](const Context& c) { return shows(c, PaletteDisplay::columns); }},
     {.value = ActionId::tiles,
      .raw = "tiles",
@@ -48,7 +48,7 @@ const ActionRow kRows[] = {
      .keys = "Ctrl+2",
      .menu = MenuId::view,
      .isEnabled = isBuilder,
-     .perform = [](const Context& c) { c.window->setDisplay(PaletteDisplay::tiles); },
+     .perform = [](const Context& c) { c.palette->setDisplay(PaletteDisplay::tiles); },
      .isOn = [](const Context& c) { return shows(c, PaletteDisplay::tiles); }},
     {.value = ActionId::colourEditor,
      .raw = "colourEditor",
@@ -72,11 +72,14 @@ const ActionRow kRows[] = {
     {.value = ActionId::vision,
      .raw = "vision",
      .text = "Vision",
+     .in = kColourWindows,
      .menu = MenuId::view,
-     .fill = [](QMenu& menu, const Context& c) { fillVisionMenu(menu, state(c), c.ui.theme); }},
+     .fill = [](QMenu& menu,
+                const Context& c) { fillVisionMenu(menu, *c.window->vision(), c.ui.theme); }},
     {.value = ActionId::codeFormat,
      .raw = "codeFormat",
      .text = "Code Format",
+     .in = kEveryWindow,
      .menu = MenuId::view,
      .fill = fillFormats},
     {.value = ActionId::collapse,
@@ -100,6 +103,7 @@ const ActionRow kRows[] = {
     {.value = ActionId::showMenuBar,
      .raw = "showMenuBar",
      .text = "Show Menu Bar",
+     .in = kEveryWindow,
      .menu = MenuId::view,
      .perform = [](const Context& c) { c.window->toggleMenuBar(); },
      .isOn = [](const Context& c) { return c.window->showsMenuBar(); }},

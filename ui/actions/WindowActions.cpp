@@ -21,7 +21,7 @@ void fillWindows(QMenu& menu, const Context& context) {
         auto* action = menu.addAction(oneLine(of->title(), 60), &menu,
                                       [&windows, id] { windows.openPalette(id); });
         action->setCheckable(true);
-        action->setChecked(of == &state(context));
+        action->setChecked(context.palette && of == &state(context));
     }
 }
 
@@ -36,31 +36,57 @@ void fillNotices(QMenu& menu, const Context& context) {
 }
 
 const ActionRow kRows[] = {
+    {.value = ActionId::openLibrary,
+     .raw = "openLibrary",
+     .text = "Library",
+     .keys = "Ctrl+L",
+     .in = kEveryWindow,
+     .menu = MenuId::window,
+     .perform = [](const Context& c) { c.ui.windows.openLibrary(); }},
+    {.value = ActionId::openBench,
+     .raw = "openBench",
+     .text = "Bench",
+     .keys = "Ctrl+B",
+     .in = kEveryWindow,
+     .menu = MenuId::window,
+     .perform = [](const Context& c) { c.ui.windows.openBench(); }},
+    {.value = ActionId::openContrast,
+     .raw = "openContrast",
+     .text = "Contrast",
+     .keys = "Ctrl+T",
+     .in = kEveryWindow,
+     .menu = MenuId::window,
+     .perform = [](const Context& c) { c.ui.windows.openContrast(); }},
     {.value = ActionId::openWindows,
      .raw = "openWindows",
      .text = "Palettes",
+     .in = kEveryWindow,
      .menu = MenuId::window,
      .fill = fillWindows},
     {.value = ActionId::shortcuts,
      .raw = "shortcuts",
      .text = "Keyboard Shortcuts",
      .keys = "F1",
+     .in = kEveryWindow,
      .menu = MenuId::help,
      .perform = [](const Context& c) { c.ui.windows.openShortcuts(); }},
     {.value = ActionId::recentNotices,
      .raw = "recentNotices",
      .text = "Recent Notices",
+     .in = kEveryWindow,
      .menu = MenuId::help,
      .isEnabled = [](const Context& c) { return !c.ui.notices.texts().empty(); },
      .fill = fillNotices},
     {.value = ActionId::acknowledgements,
      .raw = "acknowledgements",
      .text = "Acknowledgements",
+     .in = kEveryWindow,
      .menu = MenuId::help,
      .perform = [](const Context& c) { c.ui.windows.openAcknowledgements(); }},
     {.value = ActionId::about,
      .raw = "about",
      .text = "About Tintra",
+     .in = kEveryWindow,
      .menu = MenuId::help,
      .perform = [](const Context& c) { c.ui.windows.openAbout(); }},
 };

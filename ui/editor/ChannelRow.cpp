@@ -10,7 +10,7 @@
 namespace tintra {
 namespace {
 
-constexpr int kLetter = 24, kGap = 10, kField = 56;
+constexpr int kGap = 10, kField = 56;
 constexpr int kPage = 10;
 
 /// The steps that a key asks for in the field; 0 for keys of the text.
@@ -32,8 +32,8 @@ int stepsOf(const QKeyEvent& event) {
 
 } // namespace
 
-ChannelRow::ChannelRow(Theme& theme, QWidget* parent)
-    : QWidget(parent), theme_(theme), track_(new ChannelTrack(theme, this)),
+ChannelRow::ChannelRow(Theme& theme, QWidget* parent, int words)
+    : QWidget(parent), theme_(theme), words_(words), track_(new ChannelTrack(theme, this)),
       field_(new QLineEdit(this)) {
     field_->setAlignment(Qt::AlignRight);
     field_->setMaxLength(12);
@@ -71,6 +71,14 @@ void ChannelRow::setColours(GradientStops stops, const QColor& thumb) {
     track_->setColours(std::move(stops), thumb);
 }
 
+qreal ChannelRow::placeOf(double value) const {
+    return track_->x() + track_->placeOf(value);
+}
+
+void ChannelRow::setDescription(const QString& text) {
+    track_->setAccessibleDescription(text);
+}
+
 void ChannelRow::dropTyped() {
     const auto text = channel_->text(value_);
     if (field_->text() != text) field_->setText(text);
@@ -102,13 +110,13 @@ void ChannelRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setFont(theme_.font(TextStyle::body));
     painter.setPen(theme_.color(Token::ink2));
-    painter.drawText(QRect(0, 0, theme_.scaled(kLetter), height()),
-                     Qt::AlignLeft | Qt::AlignVCenter, fromUtf8(channel_->letter));
+    painter.drawText(QRect(0, 0, theme_.scaled(words_), height()), Qt::AlignLeft | Qt::AlignVCenter,
+                     fromUtf8(channel_->letter));
 }
 
 void ChannelRow::resizeEvent(QResizeEvent*) {
     const auto side = theme_.scaled(ChannelTrack::kSide);
-    const auto left = theme_.scaled(kLetter) - side;
+    const auto left = theme_.scaled(words_) - side;
     const auto field = width() - theme_.scaled(kField);
     track_->setGeometry(left, 0, field - theme_.scaled(kGap) + side - left, height());
     field_->setGeometry(field, 0, theme_.scaled(kField), height());

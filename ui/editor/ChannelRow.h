@@ -12,17 +12,26 @@ namespace tintra {
 /// once; the field shows them anew, fitted, when it is left.
 class ChannelRow final : public QWidget {
 public:
-    static constexpr int kHeight = ChannelTrack::kHeight; ///< px at regular text size
+    // px at regular text size
+    static constexpr int kHeight = ChannelTrack::kHeight, kLetter = 24;
 
-    ChannelRow(Theme& theme, QWidget* parent);
+    /// `words` px at regular text size for what stands before the track.
+    ChannelRow(Theme& theme, QWidget* parent, int words = kLetter);
 
     void setChannel(const EditorChannel& channel);
     void setValue(double value);
     void setColours(GradientStops stops, const QColor& thumb);
+    /// Where the thumb stands for a value, px from the left of the row.
+    qreal placeOf(double value) const;
+    /// What screen readers say of the track beside its name and value.
+    void setDescription(const QString& text);
     /// Shows the value again in place of what was typed.
     void dropTyped();
     /// After the theme has changed.
     void restyle();
+
+    /// Gives the keyboard to the track.
+    void focusTrack() { track_->setFocus(Qt::ShortcutFocusReason); }
 
     std::function<void(double)> changed;
     std::function<void()> settled;
@@ -37,6 +46,7 @@ private:
     void leaveField();
 
     Theme& theme_;
+    const int words_;
     const EditorChannel* channel_ = &kAlphaChannel;
     double value_ = 0;
     ChannelTrack* track_;

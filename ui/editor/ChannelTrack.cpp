@@ -78,9 +78,13 @@ std::pair<qreal, qreal> ChannelTrack::way() const {
     return {in.left() + half, in.right() - half};
 }
 
-QPointF ChannelTrack::thumbPlace() const {
+qreal ChannelTrack::placeOf(double value) const {
     const auto [from, to] = way();
-    return {from + channel_->share(value_) * (to - from), height() / 2.0};
+    return from + channel_->share(value) * (to - from);
+}
+
+QPointF ChannelTrack::thumbPlace() const {
+    return {placeOf(value_), height() / 2.0};
 }
 
 QRect ChannelTrack::thumbRect() const {

@@ -18,6 +18,8 @@ public:
     void setValue(double value);
     /// Translucent stops stand over a checkerboard.
     void setColours(GradientStops stops, const QColor& thumb);
+    /// Where the thumb stands for a value, px from the left.
+    qreal placeOf(double value) const;
     /// Is told a figure of the channel.
     std::function<void(double)> changed;
 

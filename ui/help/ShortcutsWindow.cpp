@@ -34,6 +34,8 @@ constexpr std::array kLocalKeys{
     LocalKey{nullptr, "Ten steps", "Shift+Arrows, Page Up, Page Down"},
     LocalKey{nullptr, "Apply", "Enter"},
     LocalKey{nullptr, "Revert, then close", "Esc"},
+    LocalKey{"Library", "Walk", "Arrows, Home, End"},
+    LocalKey{nullptr, "Unfold, fold", "Right, Left"},
     LocalKey{"Picture", "Walk the pins", "Tab"},
     LocalKey{nullptr, "Move by 1 pixel, by 10", "Arrows, Shift+Arrows"},
     LocalKey{nullptr, "Add the colour at the cross", "Enter"},
@@ -75,7 +77,8 @@ private:
 std::vector<RowList::Row> rowsFor(const QString& sought) {
     Rows rows(sought);
     for (const auto menu : {MenuId::file, MenuId::edit, MenuId::palette, MenuId::swatch,
-                            MenuId::view, MenuId::help, MenuId::none}) {
+                            MenuId::bench, MenuId::contrast, MenuId::library, MenuId::view,
+                            MenuId::window, MenuId::help, MenuId::none}) {
         rows.begin(worded(menuTitle(menu)));
         for (const auto& row : allActions())
             if (row.menu == menu && *row.keys != '\0' && !isToldElsewhere(row))

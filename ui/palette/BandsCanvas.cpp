@@ -207,10 +207,10 @@ std::optional<BandsCanvas::Spot> BandsCanvas::current() const {
     return spot;
 }
 
-std::optional<PaletteWindow::Target> BandsCanvas::target() const {
+std::optional<ActionTarget> BandsCanvas::target() const {
     const auto& bands = state_.bands();
     if (bands.empty() || bands.front().empty()) return std::nullopt;
-    return PaletteWindow::Target{colorAt(current().value_or(Spot{})), std::nullopt, std::nullopt};
+    return ActionTarget{colorAt(current().value_or(Spot{})), std::nullopt, std::nullopt};
 }
 
 const WashColor& BandsCanvas::colorAt(Spot spot) const {

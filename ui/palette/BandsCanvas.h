@@ -31,7 +31,7 @@ public:
     ~BandsCanvas() override;
 
     /// The colour that has the focus, or the first one.
-    std::optional<PaletteWindow::Target> target() const;
+    std::optional<ActionTarget> target() const;
     /// The item of a colour; -1 for none.
     int itemOf(Spot spot) const;
 

@@ -2,14 +2,21 @@
 
 #include "ui/shared/Canvas.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
 
 namespace tintra {
 
-CanvasScroll::CanvasScroll(QWidget* parent) : QScrollArea(parent) {
+CanvasScroll::CanvasScroll(QWidget* parent, Qt::Orientation along)
+    : QScrollArea(parent), along_(along) {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    if (along == Qt::Vertical)
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    else
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
 }
 
@@ -25,6 +32,14 @@ void CanvasScroll::reveal(const QRect& what) {
 
 void CanvasScroll::keyPressEvent(QKeyEvent* event) {
     event->ignore();
+}
+
+void CanvasScroll::wheelEvent(QWheelEvent* event) {
+    // Either wheel scrolls the one way that there is.
+    if (along_ == Qt::Horizontal)
+        QCoreApplication::sendEvent(horizontalScrollBar(), event);
+    else
+        QScrollArea::wheelEvent(event);
 }
 
 } // namespace tintra

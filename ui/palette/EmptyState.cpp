@@ -1,15 +1,15 @@
 #include "ui/palette/EmptyState.h"
 
 #include "ui/actions/ActionTable.h"
-#include "ui/shared/Controls.h"
+#include "ui/program/Windows.h"
+#include "ui/shared/Beginning.h"
+#include "ui/shared/Lines.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
-#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTextLayout>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -20,7 +20,6 @@ namespace {
 
 constexpr int kQuoteWidth = 440, kActionWidth = 324, kAction = 36, kLowestAction = 24;
 constexpr int kMargin = 12, kAuthorGap = 10, kActionsGap = 34;
-constexpr int kPadding = 14, kIcon = 20, kWordsAt = 46;
 
 /// The quotation's size and line height, px, and what it shrinks to where there is little room.
 constexpr std::array<std::pair<int, int>, 3> kQuoteSizes{{{30, 40}, {22, 30}, {16, 22}}};
@@ -35,37 +34,17 @@ struct Beginning {
 constexpr std::array kBeginnings{
     Beginning{"paste", "Type or paste values", ActionId::typeOrPaste, &EmptyState::typeOrPaste},
     Beginning{"picture", "Open a picture", ActionId::openPicture, &EmptyState::openPicture},
+    Beginning{"library", "Open a palette from the Library", ActionId::openLibrary,
+              &EmptyState::openLibrary},
     Beginning{"folder", "Open a palette…", ActionId::open, &EmptyState::openPalette},
 };
-
-QStringList linesOf(const QString& text, const QFont& font, qreal width) {
-    QStringList lines;
-    QTextLayout layout(text, font);
-    layout.beginLayout();
-    for (auto line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width);
-        lines.push_back(text.mid(line.textStart(), line.textLength()).trimmed());
-    }
-    layout.endLayout();
-    return lines;
-}
-
-/// As many lines as the width asks for, of lengths as even as can be.
-QStringList evenLinesOf(const QString& text, const QFont& font, qreal width) {
-    const auto count = linesOf(text, font, width).size();
-    auto narrow = width / 2, wide = width;
-    while (wide - narrow > 4) {
-        const auto middle = (narrow + wide) / 2;
-        (linesOf(text, font, middle).size() > count ? narrow : wide) = middle;
-    }
-    return linesOf(text, font, wide);
-}
 
 } // namespace
 
 EmptyState::EmptyState(Ui& ui, AppState& state, QWidget* parent)
     : Canvas(ui.theme, parent), openPicture([this] { state_.chooseImage(); }),
-      openPalette([this] { state_.open(); }), state_(state) {
+      openLibrary([&ui] { ui.windows.openLibrary(); }), openPalette([this] { state_.open(); }),
+      state_(state) {
     setAccessibleName(worded("Empty palette"));
     subscriptions_.add(ui.theme.version(), [this] { relayout(); });
 }
@@ -97,8 +76,10 @@ std::vector<CanvasItem> EmptyState::layoutItems(QSizeF size) const {
     const auto width = std::max<qreal>(1, size.width() - 2 * kMargin);
     const auto count = static_cast<int>(kBeginnings.size());
     // The quotation gets what the actions leave.
-    const auto row = std::clamp(static_cast<int>(size.height() - 2 * kMargin) / count,
-                                theme().scaled(kLowestAction), theme().scaled(kAction));
+    const auto lowest = std::clamp(static_cast<int>(size.height()) / count, kLowestAction,
+                                   theme().scaled(kLowestAction));
+    const auto row = std::clamp(static_cast<int>(size.height() - 2 * kMargin) / count, lowest,
+                                theme().scaled(kAction));
     const auto actions = row * count;
     const auto authorLine = theme().lineHeight(TextStyle::body);
     const auto around = kAuthorGap + authorLine + kActionsGap;
@@ -127,34 +108,6 @@ std::vector<CanvasItem> EmptyState::layoutItems(QSizeF size) const {
     return items;
 }
 
-void EmptyState::paintAction(QPainter& painter, const CanvasItem& item, ItemState state) const {
-    const auto ink = theme().color(Token::ink);
-    if (state.hovered) {
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(theme().color(pressed_ >= 0 ? Token::press : Token::hover));
-        painter.drawRoundedRect(item.rect, metrics::kControlRadius, metrics::kControlRadius);
-    }
-    if (state.focused)
-        paintFocusRing(painter, theme(), item.rect.adjusted(1, 1, -1, -1), metrics::kControlRadius);
-    const auto middle = item.rect.center().y();
-    painter.drawPixmap(QPointF(item.rect.left() + kPadding, middle - kIcon / 2.0),
-                       theme().icon(kBeginnings[item.index].icon, kIcon, ink, devicePixelRatioF()));
-    const auto words = item.rect.adjusted(kWordsAt, 0, -kPadding, 0);
-    const auto font = theme().font(TextStyle::control);
-    const QFontMetricsF measure(font);
-    const auto needed = measure.horizontalAdvance(item.name);
-    painter.setFont(font);
-    painter.setPen(ink);
-    painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter,
-                     measure.elidedText(item.name, Qt::ElideRight, words.width()));
-    const auto keyFont = theme().font(TextStyle::body);
-    const auto key = QFontMetricsF(keyFont).horizontalAdvance(item.description);
-    if (needed + key + kPadding > words.width()) return;
-    painter.setFont(keyFont);
-    painter.setPen(theme().color(Token::ink3));
-    painter.drawText(words, Qt::AlignRight | Qt::AlignVCenter, item.description);
-}
-
 void EmptyState::paintItem(QPainter& painter, const CanvasItem& item, ItemState state) {
     switch (item.kind) {
     case quotation: {
@@ -168,7 +121,8 @@ void EmptyState::paintItem(QPainter& painter, const CanvasItem& item, ItemState 
         break;
     }
     case action:
-        paintAction(painter, item, state);
+        paintBeginning(painter, theme(), item, kBeginnings[item.index].icon,
+                       {state.hovered, pressed_ >= 0, state.focused});
         break;
     default: {
         painter.setFont(theme().font(TextStyle::body));

@@ -19,8 +19,8 @@ public:
 
     EmptyState(Ui& ui, AppState& state, QWidget* parent);
 
-    /// What the actions do. The last two are the model's own unless set.
-    std::function<void()> typeOrPaste, openPicture, openPalette;
+    /// What the actions do. All but the first are the program's own unless set.
+    std::function<void()> typeOrPaste, openPicture, openLibrary, openPalette;
 
 protected:
     std::vector<CanvasItem> layoutItems(QSizeF size) const override;
@@ -39,7 +39,6 @@ private:
     };
     Setting setting(qreal width, qreal height) const;
     CanvasItem actionItem(std::size_t at, const QRectF& rect) const;
-    void paintAction(QPainter& painter, const CanvasItem& item, ItemState state) const;
     void perform(int item);
 
     AppState& state_;

@@ -5,9 +5,8 @@
 #include "palettes/PaletteExport.h"
 #include "platform/File.h"
 #include "state/Models.h"
-#include "ui/actions/FormatMenus.h"
+#include "ui/frame/ToolLine.h"
 #include "ui/palette/DragHandle.h"
-#include "ui/palette/PaletteToolBar.h"
 #include "ui/shared/ColourDrag.h"
 #include "ui/shared/ColourMime.h"
 #include "ui/shared/Controls.h"
@@ -54,8 +53,7 @@ PaletteFoot::PaletteFoot(Ui& ui, AppState& state, ContextOf context, QWidget* pa
       chip_(new DragHandle(this)), count_(new DragHandle(this)),
       copy_(new ToolButton(ui.theme, "copy", 24, this)),
       add_(new ToolButton(ui.theme, "add", 32, this)), more_(makeMoreButton(ui, context_, this)),
-      vision_(new PopUpButton(ui.theme, PopUpButton::Border::no, this)),
-      format_(new PopUpButton(ui.theme, PopUpButton::Border::no, this)) {
+      choices_(ui, &state.vision, this) {
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setAccessibleName(worded("Facts"));
     chip_->paint = [this](QPainter& painter, const QRect& in) {
@@ -69,14 +67,15 @@ PaletteFoot::PaletteFoot(Ui& ui, AppState& state, ContextOf context, QWidget* pa
     };
     count_->drag = [this] { dragPalette(); };
     count_->setToolTip(worded("Drag the palette out as a file"));
-    makeChoices();
+    connectTools();
+    choices_.changed = [this] { layOut(); };
     subscribe();
     sync();
 }
 
 PaletteFoot::~PaletteFoot() = default;
 
-void PaletteFoot::makeChoices() {
+void PaletteFoot::connectTools() {
     const auto connectTool = [this](ToolButton& button, ActionId action) {
         const auto& row = actionRow(action);
         button.setTitle(worded(row.text), keyText(row));
@@ -85,12 +84,6 @@ void PaletteFoot::makeChoices() {
     };
     connectTool(*copy_, ActionId::copy);
     connectTool(*add_, ActionId::addBlankSwatch);
-    vision_->setIconName("eye");
-    vision_->fill = [this](QMenu& menu) { fillVisionMenu(menu, state_, ui_.theme); };
-    format_->fill = [this](QMenu& menu) {
-        fillFormatMenu(menu, ui_, true,
-                       [this](ColorFormat format) { ui_.models.preferences().format = format; });
-    };
 }
 
 void PaletteFoot::subscribe() {
@@ -153,11 +146,6 @@ void PaletteFoot::sync() {
     chip_->setAccessibleName(name_.isEmpty() ? code_ : name_);
     chip_->setToolTip(worded("Drag the colour"));
     setAccessibleDescription(hint());
-    vision_->setText(shown(title(state_.vision.value())));
-    vision_->setAccessibleName(worded("Vision: %1").arg(vision_->text()));
-    vision_->setInverted(state_.vision.value() != Vision::typical);
-    format_->setText(shown(preferences.format.value().title()));
-    format_->setAccessibleName(worded("Code format: %1").arg(format_->text()));
     layOut();
 }
 
@@ -172,7 +160,8 @@ QSize PaletteFoot::minimumSizeHint() const {
 void PaletteFoot::layOut() {
     add_->setVisible(compact_);
     more_->setVisible(compact_);
-    for (QWidget* fact : std::initializer_list<QWidget*>{vision_, format_, count_})
+    for (QWidget* fact :
+         std::initializer_list<QWidget*>{choices_.vision(), &choices_.format(), count_})
         fact->setVisible(!compact_);
     chip_->setVisible(!compact_ && target_);
     copy_->setVisible(!compact_ && target_);
@@ -213,8 +202,8 @@ int PaletteFoot::layOutFacts() {
         widget.setVisible(fits);
         if (fits) left = place(widget, left, width) - gap;
     };
-    add(*format_, format_->sizeHint().width(), kGroupGap);
-    add(*vision_, vision_->sizeHint().width(), kGap);
+    add(choices_.format(), choices_.format().sizeHint().width(), kGroupGap);
+    add(*choices_.vision(), choices_.vision()->sizeHint().width(), kGap);
     if (state_.swatches().empty() && state_.mode.value() == HarmonyMode::paletteBuilder)
         count_->hide();
     else
@@ -237,7 +226,8 @@ void PaletteFoot::layOutColour(int right) {
         std::max(0, std::min(words.horizontalAdvance(name_) + 1, room - codeWidth));
     namePlace_ = {left, 0, nameWidth, height()};
     // Alone in the foot, the code stands at its end.
-    const bool alone = format_->isHidden() && vision_->isHidden() && count_->isHidden();
+    const bool alone =
+        choices_.format().isHidden() && choices_.vision()->isHidden() && count_->isHidden();
     const auto shownCode = std::max(0, std::min(codeWidth, room));
     const auto codeLeft = alone ? width() - kSide - copySize.width() - kGap - shownCode
                                 : left + nameWidth + (nameWidth > 0 ? kCodeGap : 0);
@@ -273,8 +263,8 @@ void PaletteFoot::paintEvent(QPaintEvent*) {
         write(hintPlace_, TextStyle::body, Token::ink3, hint());
     write(namePlace_, TextStyle::name, Token::ink, name_);
     write(codePlace_, TextStyle::code, Token::ink2, code_);
-    if (!format_->isHidden() && !vision_->isHidden())
-        painter.fillRect(format_->x() - kGroupGap / 2, (height() - 20) / 2, 1, 20,
+    if (!choices_.format().isHidden() && !choices_.vision()->isHidden())
+        painter.fillRect(choices_.format().x() - kGroupGap / 2, (height() - 20) / 2, 1, 20,
                          theme.color(Token::line));
 }
 

@@ -2,6 +2,7 @@
 
 #include "ui/Ui.h"
 #include "ui/actions/Menus.h"
+#include "ui/frame/FootChoices.h"
 #include "ui/palette/PaletteWindow.h"
 #include "ui/shared/Subscriptions.h"
 
@@ -16,7 +17,6 @@ class QTemporaryDir;
 namespace tintra {
 
 class DragHandle;
-class PopUpButton;
 class ToolButton;
 
 /// The line of facts at the foot of a palette window: the selected colour, which drags out by its
@@ -43,7 +43,7 @@ protected:
 
 private:
     void subscribe();
-    void makeChoices();
+    void connectTools();
     QString countText() const;
     /// What stands in the place of a colour; nothing while there is one.
     QString hint() const;
@@ -60,12 +60,12 @@ private:
     ContextOf context_;
     bool compact_ = false;
     std::optional<std::pair<std::size_t, std::size_t>> move_;
-    std::optional<PaletteWindow::Target> target_;
+    std::optional<ActionTarget> target_;
     QString name_, code_;
     QRect namePlace_, codePlace_, hintPlace_;
     DragHandle *chip_, *count_;
     ToolButton *copy_, *add_, *more_;
-    PopUpButton *vision_, *format_;
+    FootChoices choices_;
     std::unique_ptr<QTemporaryDir> folder_; ///< of files that were dragged out
     Subscriptions subscriptions_;
 };

@@ -1,51 +1,42 @@
 #include "ui/palette/PaletteWindow.h"
 
+#include "platform/Clipboard.h"
 #include "platform/Services.h"
 #include "state/Models.h"
-#include "ui/actions/Shortcuts.h"
+#include "ui/actions/Menus.h"
 #include "ui/palette/BandsCanvas.h"
 #include "ui/palette/EmptyState.h"
+#include "ui/palette/FileDrops.h"
 #include "ui/palette/PaletteWindowParts.h"
 #include "ui/palette/StripCells.h"
 #include "ui/program/Windows.h"
+#include "ui/shared/ColourMime.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
-#include <QContextMenuEvent>
 #include <QDrag>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QVBoxLayout>
-#include <algorithm>
 
 namespace tintra {
 namespace {
 
 constexpr QSize kLeast(240, 180);
 
-/// The first widget within a region that the Tab key comes to; null for none.
-QWidget* firstStop(QWidget* region) {
-    const auto takes = [](const QWidget* widget) {
-        return widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus);
-    };
-    if (takes(region)) return region;
-    for (auto* next = region->nextInFocusChain(); next != region; next = next->nextInFocusChain())
-        if (region->isAncestorOf(next) && takes(next)) return next;
-    return nullptr;
-}
-
 } // namespace
 
 PaletteWindow::PaletteWindow(Ui& ui, AppState& state)
-    : ui_(ui), state_(state), parts_(std::make_unique<Parts>()) {
+    : MainWindow(ui, WindowKind::palette, state.place()), state_(state),
+      parts_(std::make_unique<Parts>()) {
     setMinimumSize(kLeast);
     setAcceptDrops(true);
     assemble();
     subscribe();
-    installShortcuts(*this, [this] { return context(); });
     syncTitle();
     syncPanels();
     restoreFrame();
@@ -57,7 +48,7 @@ PaletteWindow::PaletteWindow(Ui& ui, AppState& state)
 PaletteWindow::~PaletteWindow() = default;
 
 ActionContext PaletteWindow::context() {
-    return {ui_, this};
+    return {.ui = ui(), .window = this, .palette = this};
 }
 
 void PaletteWindow::assemble() {
@@ -71,28 +62,19 @@ void PaletteWindow::assemble() {
     column->setContentsMargins({});
     column->setSpacing(0);
     // The order is that of the Tab key.
-    parts.menuBar = new CalledMenuBar(parts.unfolded);
-    fillMenuBar(*parts.menuBar, contextNow);
-    parts.menuBar->followMenus();
-    parts.toolBar = new PaletteToolBar(ui_, state_, contextNow, parts.unfolded);
-    parts.seedRow = new SeedRow(ui_, state_, parts.unfolded);
-    parts.body = new PaletteBody(ui_, state_, parts.unfolded);
-    parts.pictureBar = new PictureBar(ui_, state_, parts.unfolded);
-    parts.foot = new PaletteFoot(ui_, state_, contextNow, parts.unfolded);
-    for (auto* line : std::initializer_list<QWidget*>{parts.menuBar, parts.toolBar, parts.seedRow})
+    column->addWidget(makeMenuBar(parts.unfolded));
+    parts.toolBar = new PaletteToolBar(ui(), state_, contextNow, parts.unfolded);
+    parts.seedRow = new SeedRow(ui(), state_, parts.unfolded);
+    parts.body = new PaletteBody(ui(), state_, parts.unfolded);
+    parts.pictureBar = new PictureBar(ui(), state_, parts.unfolded);
+    parts.foot = new PaletteFoot(ui(), state_, contextNow, parts.unfolded);
+    for (auto* line : std::initializer_list<QWidget*>{parts.toolBar, parts.seedRow})
         column->addWidget(line);
     column->addWidget(parts.body, 1);
     column->addWidget(parts.pictureBar);
     column->addWidget(parts.foot);
-    parts.notices = new NoticeBar(ui_.theme, ui_.services.mainLoop, parts.body);
+    makeNotices(parts.body);
     connectBody();
-}
-
-void PaletteWindow::popUp(QPoint at, void (*fill)(QMenu&, const ActionContext&)) {
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    fill(*menu, context());
-    menu->popup(at);
 }
 
 void PaletteWindow::connectBody() {
@@ -101,7 +83,9 @@ void PaletteWindow::connectBody() {
     body.empty().typeOrPaste = [this] { showPasteSheet(); };
     body.bands().fillMenu = [this](QMenu& menu) { fillSwatchMenu(menu, context()); };
     body.swatches().contextMenu = [this](QPoint at, bool onSwatch) {
-        popUp(at, onSwatch ? fillSwatchMenu : fillCanvasMenu);
+        popUp(at, [this, onSwatch](QMenu& menu) {
+            (onSwatch ? fillSwatchMenu : fillCanvasMenu)(menu, context());
+        });
     };
     body.swatches().moving = [this](auto move) { parts_->foot->setMove(move); };
 }
@@ -120,11 +104,11 @@ void PaletteWindow::subscribe() {
     all.add(state_.isCollapsed, [this] { syncCollapsed(); });
     all.add(state_.editorBuffer, [this] { growForEditor(); });
     all.add(state_.windowSize, [this] { takeModeSize(); });
-    auto& preferences = ui_.models.preferences();
+    auto& preferences = ui().models.preferences();
     all.add(preferences.compactOrientation, [this] { resizeStrip(); });
     all.add(preferences.alwaysOnTop, [this] { syncOnTop(); });
     all.add(preferences.paletteViews, [this] { parts_->body->setDisplay(display()); });
-    all.add(ui_.theme.version(), [this] { syncPanels(); });
+    all.add(ui().theme.version(), [this] { syncPanels(); });
 }
 
 void PaletteWindow::syncTitle() {
@@ -150,40 +134,72 @@ void PaletteWindow::syncPanels() {
 }
 
 void PaletteWindow::syncOnTop() {
-    const bool wanted = ui_.models.preferences().alwaysOnTop;
+    const bool wanted = ui().models.preferences().alwaysOnTop;
     if (windowFlags().testFlag(Qt::WindowStaysOnTopHint) == wanted) return;
     setFlagInPlace(Qt::WindowStaysOnTopHint, wanted);
 }
 
-NoticeBar& PaletteWindow::notices() const {
-    return *parts_->notices;
-}
-
-std::optional<PaletteWindow::Target> PaletteWindow::target() const {
+std::optional<ActionTarget> PaletteWindow::target() const {
     if (state_.mode.value() != HarmonyMode::paletteBuilder) {
         if (!parts_->isFolded) return parts_->body->bands().target();
         const auto colour = parts_->strip->cells().current();
-        return colour ? std::optional(Target{*colour, std::nullopt, std::nullopt}) : std::nullopt;
+        return colour ? std::optional(ActionTarget{*colour, std::nullopt, std::nullopt})
+                      : std::nullopt;
     }
     const auto at = state_.selectedSwatch.value();
     if (!at || *at >= state_.swatches().size()) return std::nullopt;
-    return Target{parts_->body->swatches().colorAt(*at), state_.swatches()[*at].name, *at};
+    return ActionTarget{parts_->body->swatches().colorAt(*at), state_.swatches()[*at].name, *at};
+}
+
+void PaletteWindow::copy(std::optional<ColorFormat> as) {
+    if (const auto on = target()) state_.copy(on->color, on->name, as);
+}
+
+std::optional<FrontCapabilities::Clears> PaletteWindow::clears() const {
+    using Clears = FrontCapabilities::Clears;
+    return state_.mode.value() == HarmonyMode::paletteBuilder ? Clears::palette : Clears::seeds;
+}
+
+void PaletteWindow::clear() {
+    if (state_.mode.value() == HarmonyMode::paletteBuilder)
+        state_.clearPalette();
+    else
+        state_.clearSeeds();
+}
+
+/// Text and colours are the models' to read; only files and pictures are taken from the desktop's
+/// clipboard itself.
+void PaletteWindow::pasteColours() {
+    const auto held = ui().services.clipboard.content();
+    if (!held.text.empty()) {
+        receiveText(ui(), state_, held.text);
+        return;
+    }
+    if (held.colour) {
+        const auto& [r, g, b, a] = *held.colour;
+        state_.addToPalette({r, g, b, a}, AppState::Duplicates::refuse);
+        return;
+    }
+    const auto* mime = QApplication::clipboard()->mimeData();
+    if (!mime) return;
+    const auto found = dropped(*mime);
+    if (!found.isEmpty() && !found.colour) receiveFiles(ui(), state_, found, false);
 }
 
 PaletteDisplay PaletteWindow::display() const {
-    const auto& views = ui_.models.preferences().paletteViews.value();
+    const auto& views = ui().models.preferences().paletteViews.value();
     const auto kept = views.find(state_.displayKey());
     return kept == views.end() ? PaletteDisplay::columns : kept->second;
 }
 
 void PaletteWindow::setDisplay(PaletteDisplay display) {
-    auto views = ui_.models.preferences().paletteViews.value();
+    auto views = ui().models.preferences().paletteViews.value();
     views[state_.displayKey()] = display;
-    ui_.models.preferences().paletteViews = std::move(views);
+    ui().models.preferences().paletteViews = std::move(views);
 }
 
 void PaletteWindow::showPasteSheet() {
-    if (!parts_->pasteSheet) parts_->pasteSheet = new PasteSheet(ui_, state_, this);
+    if (!parts_->pasteSheet) parts_->pasteSheet = new PasteSheet(ui(), pasteTarget(state_), this);
     parts_->pasteSheet->present();
 }
 
@@ -200,53 +216,16 @@ void PaletteWindow::setPeeking(bool peeks) {
     parts_->body->swatches().setPeeking(peeks);
 }
 
-bool PaletteWindow::showsMenuBar() const {
-    return parts_->menuBar->isPinned();
-}
-
-void PaletteWindow::toggleMenuBar() {
-    parts_->menuBar->setPinned(!parts_->menuBar->isPinned());
-}
-
 void PaletteWindow::openMenuBar() {
     // A strip has no room for a bar.
     if (parts_->isFolded) return showContextMenu();
-    parts_->menuBar->call();
+    MainWindow::openMenuBar();
 }
 
 std::vector<QWidget*> PaletteWindow::regions() const {
     const auto& parts = *parts_;
-    std::vector<QWidget*> shown;
-    for (auto* region : std::initializer_list<QWidget*>{
-             parts.strip, parts.toolBar, parts.seedRow, parts.body->picture(), parts.body->main(),
-             parts.body->editor(), parts.pictureBar, parts.foot})
-        if (region && region->isVisible() && firstStop(region)) shown.push_back(region);
-    return shown;
-}
-
-void PaletteWindow::focusRegion(int by) {
-    const auto all = regions();
-    if (all.empty()) return;
-    const auto* focus = QApplication::focusWidget();
-    const auto here = std::ranges::find_if(all, [focus](const QWidget* region) {
-        return focus && (region == focus || region->isAncestorOf(focus));
-    });
-    const auto count = static_cast<std::ptrdiff_t>(all.size());
-    auto next = here == all.end() ? 0 : (here - all.begin() + by + count) % count;
-    firstStop(all[static_cast<std::size_t>(next)])->setFocus(Qt::TabFocusReason);
-}
-
-void PaletteWindow::showContextMenu() {
-    auto* focus = QApplication::focusWidget();
-    if (!focus || focus->window() != this) return;
-    const auto middle = focus->rect().center();
-    QContextMenuEvent event(QContextMenuEvent::Keyboard, middle, focus->mapToGlobal(middle));
-    QApplication::sendEvent(focus, &event);
-}
-
-bool PaletteWindow::isOnCanvas() const {
-    auto* focus = QApplication::focusWidget();
-    return !focus || focus == this || dynamic_cast<Canvas*>(focus);
+    return {parts.strip,        parts.toolBar,        parts.seedRow,    parts.body->picture(),
+            parts.body->main(), parts.body->editor(), parts.pictureBar, parts.foot};
 }
 
 void PaletteWindow::closeNow() {
@@ -260,7 +239,7 @@ void PaletteWindow::closeEvent(QCloseEvent* event) {
     event->setAccepted(parts_->isClosing);
     if (parts_->isClosing) return;
     finishTyping();
-    ui_.windows.closePalette(state_.id());
+    ui().windows.closePalette(state_.id());
 }
 
 void PaletteWindow::finishTyping() {
@@ -270,24 +249,15 @@ void PaletteWindow::finishTyping() {
 }
 
 void PaletteWindow::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
-        ui_.models.workspaces().becameKey(state_.id());
-        ui_.models.vision().front = state_.place();
-    }
+    if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        ui().models.workspaces().becameKey(state_.id());
     if (event->type() == QEvent::WindowStateChange) keepFrame();
-    QWidget::changeEvent(event);
-}
-
-void PaletteWindow::keyPressEvent(QKeyEvent* event) {
-    parts_->altAlone = event->key() == Qt::Key_Alt && !event->isAutoRepeat();
-    if (isOnCanvas() && performCanvasKey(*event, context())) return;
-    QWidget::keyPressEvent(event);
+    MainWindow::changeEvent(event);
 }
 
 void PaletteWindow::keyReleaseEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Alt && std::exchange(parts_->altAlone, false)) openMenuBar();
     if (event->key() == Qt::Key_Space && !event->isAutoRepeat()) setPeeking(false);
-    QWidget::keyReleaseEvent(event);
+    MainWindow::keyReleaseEvent(event);
 }
 
 } // namespace tintra

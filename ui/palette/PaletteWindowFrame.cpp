@@ -2,43 +2,23 @@
 // on it as a whole.
 
 #include "state/Models.h"
+#include "ui/actions/Menus.h"
+#include "ui/frame/WindowFrame.h"
 #include "ui/palette/FileDrops.h"
 #include "ui/palette/PaletteWindowParts.h"
 #include "ui/palette/StripCells.h"
 #include "ui/shared/ColourMime.h"
 
 #include <QDropEvent>
-#include <QGuiApplication>
+#include <QMenu>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
-#include <cmath>
 
 namespace tintra {
 namespace {
 
 constexpr QSize kUsual(960, 600);
-
-int rounded(double length) {
-    constexpr double kMost = 100'000;
-    return static_cast<int>(std::lround(std::clamp(length, -kMost, kMost)));
-}
-
-QRect rectOf(const StoredFrame& frame) {
-    return {rounded(frame.x), rounded(frame.y), rounded(frame.width), rounded(frame.height)};
-}
-
-/// Brought onto the screen where it stood, or the first one, when that has gone.
-QRect onScreen(QRect frame) {
-    const auto* screen = QGuiApplication::screenAt(frame.center());
-    if (!screen) screen = QGuiApplication::primaryScreen();
-    if (!screen) return frame;
-    const auto room = screen->availableGeometry();
-    frame.setSize(frame.size().boundedTo(room.size()));
-    frame.moveLeft(std::clamp(frame.left(), room.left(), room.right() + 1 - frame.width()));
-    frame.moveTop(std::clamp(frame.top(), room.top(), room.bottom() + 1 - frame.height()));
-    return frame;
-}
 
 } // namespace
 
@@ -58,7 +38,7 @@ void PaletteWindow::takeModeSize() {
     const auto size = state_.windowSize.value();
     if (size.width < 1 || size.height < 1 || isMaximized() || parts_->isFolded) return;
     parts_->isPlacing = true;
-    resize(rounded(size.width) + parts_->grownBy, rounded(size.height));
+    resize(rectOf({0, 0, size.width, size.height}).size() + QSize(parts_->grownBy, 0));
     parts_->isPlacing = false;
 }
 
@@ -87,13 +67,10 @@ void PaletteWindow::keepFrame() {
     if (parts.isFolded || parts.isPlacing || !isVisible() || isMaximized() || isFullScreen() ||
         isMinimized())
         return;
-    const auto now = geometry();
-    const StoredSize size{static_cast<double>(now.width() - parts.grownBy),
-                          static_cast<double>(now.height())};
-    state_.frame = StoredFrame{static_cast<double>(now.x()), static_cast<double>(now.y()),
-                               size.width, size.height};
+    const auto now = storedFrame(geometry().adjusted(0, 0, -parts.grownBy, 0));
+    state_.frame = now;
     auto sizes = state_.modeSizes.value();
-    sizes[state_.mode.value()] = size;
+    sizes[state_.mode.value()] = {now.width, now.height};
     state_.modeSizes = std::move(sizes);
 }
 
@@ -103,8 +80,10 @@ void PaletteWindow::syncCollapsed() {
     if (folds == parts.isFolded) return;
     parts.isPlacing = true;
     if (folds && !parts.strip) {
-        parts.strip = new CollapsedStrip(ui_, state_, this);
-        parts.strip->cells().contextMenu = [this](QPoint at) { popUp(at, fillStripMenu); };
+        parts.strip = new CollapsedStrip(ui(), state_, this);
+        parts.strip->cells().contextMenu = [this](QPoint at) {
+            popUp(at, [this](QMenu& menu) { fillStripMenu(menu, context()); });
+        };
     }
     parts.isFolded = folds;
     parts.unfolded->setVisible(!folds);
@@ -178,9 +157,9 @@ void PaletteWindow::dropEvent(QDropEvent* event) {
     const auto drop = dropped(*event->mimeData());
     event->acceptProposedAction();
     if (drop.colour)
-        receiveColour(ui_, state_, *drop.colour, state_.swatches().size(), asksToMove(*event));
+        receiveColour(ui(), state_, *drop.colour, state_.swatches().size(), asksToMove(*event));
     else
-        receiveFiles(ui_, state_, drop, asksToAdd(*event));
+        receiveFiles(ui(), state_, drop, asksToAdd(*event));
 }
 
 } // namespace tintra

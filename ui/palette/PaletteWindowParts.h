@@ -1,6 +1,5 @@
 #pragma once
 
-#include "ui/palette/CalledMenuBar.h"
 #include "ui/palette/CollapsedStrip.h"
 #include "ui/palette/PaletteBody.h"
 #include "ui/palette/PaletteFoot.h"
@@ -9,7 +8,6 @@
 #include "ui/palette/SeedRow.h"
 #include "ui/paste/PasteSheet.h"
 #include "ui/picture/PictureBar.h"
-#include "ui/shared/NoticeBar.h"
 #include "ui/shared/Subscriptions.h"
 
 namespace tintra {
@@ -17,17 +15,14 @@ namespace tintra {
 /// The pieces of a palette window; the window owns them.
 struct PaletteWindow::Parts {
     QWidget* unfolded = nullptr; ///< all but the strip
-    CalledMenuBar* menuBar = nullptr;
     PaletteToolBar* toolBar = nullptr;
     SeedRow* seedRow = nullptr;
     PaletteBody* body = nullptr;
     PictureBar* pictureBar = nullptr;
     PaletteFoot* foot = nullptr;
-    NoticeBar* notices = nullptr;
     PasteSheet* pasteSheet = nullptr; ///< made when it is first opened
     CollapsedStrip* strip = nullptr;  ///< made when the window is first collapsed
 
-    bool altAlone = false; ///< Alt is held and nothing else was pressed
     bool isClosing = false;
     bool isPlacing = false; ///< the window places itself: not the user's doing
     bool isFolded = false;

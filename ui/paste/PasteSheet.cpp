@@ -1,6 +1,5 @@
 #include "ui/paste/PasteSheet.h"
 
-#include "state/Models.h"
 #include "ui/paste/PasteField.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
@@ -23,29 +22,6 @@ namespace {
 constexpr int kWidth = 560, kHeight = 400, kInset = 24, kLeastAround = 12;
 constexpr int kShadow = 16; ///< beneath the sheet and beside it
 constexpr int kMotion = 120;
-
-/// What the values are for.
-struct Purpose {
-    const char* explanation;
-    const char* button;
-};
-
-Purpose purposeOf(HarmonyMode mode) {
-    switch (mode) {
-    case HarmonyMode::paletteBuilder:
-        return {"One per line, or a whole stylesheet. Hex, rgb(), hsl(), oklch(), lab() and CSS "
-                "colour names are understood; a variable’s name becomes the swatch’s.",
-                "Add to Palette"};
-    case HarmonyMode::ramp:
-        return {"The first value is the first colour and a second value the last. Hex, rgb(), "
-                "hsl() and oklch() are understood.",
-                "Use as Seeds"};
-    default:
-        return {"The first value is the colour the harmony is built from. Hex, rgb(), hsl() and "
-                "oklch() are understood.",
-                "Use as Seed"};
-    }
-}
 
 bool isAccepting(const QKeyEvent& event) {
     return (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) &&
@@ -80,8 +56,8 @@ struct PasteSheet::Panel final : QWidget {
     const Theme& theme;
 };
 
-PasteSheet::PasteSheet(Ui& ui, AppState& state, QWidget* window)
-    : QWidget(window), ui_(ui), state_(state), reader_(ui.services),
+PasteSheet::PasteSheet(Ui& ui, PasteTarget target, QWidget* window)
+    : QWidget(window), ui_(ui), target_(std::move(target)), reader_(ui.services),
       panel_(new Panel(ui.theme, this)), title_(new QLabel(worded("Type or paste values"), panel_)),
       explanation_(new QLabel(panel_)), field_(new PasteField(ui, panel_)),
       warning_(new QLabel(panel_)), status_(new QLabel(panel_)), accept_(new QPushButton(panel_)),
@@ -90,11 +66,9 @@ PasteSheet::PasteSheet(Ui& ui, AppState& state, QWidget* window)
     setAccessibleName(title_->text());
     assemble();
     follow();
-    followMode();
-    subscriptions_.emplace_back(ui.theme.version(), [this] { follow(); });
-    subscriptions_.emplace_back(state.mode, [this] { followMode(); });
-    subscriptions_.emplace_back(state.vision,
-                                [this] { field_->margin().setVision(state_.vision); });
+    subscriptions_.add(ui.theme.version(), [this] { follow(); });
+    subscriptions_.add(target_.vision, [this] { field_->margin().setVision(target_.vision); });
+    if (target_.wordsChanged) wordsChanged_ = target_.wordsChanged([this] { followWords(); });
     window->installEventFilter(this);
 }
 
@@ -144,11 +118,11 @@ void PasteSheet::follow() {
     update();
 }
 
-void PasteSheet::followMode() {
-    const auto purpose = purposeOf(state_.mode);
-    explanation_->setText(worded(purpose.explanation));
-    field_->editor().setAccessibleDescription(explanation_->text());
-    accept_->setText(worded(purpose.button));
+void PasteSheet::followWords() {
+    const auto words = target_.words();
+    explanation_->setText(words.explanation);
+    field_->editor().setAccessibleDescription(words.explanation);
+    accept_->setText(words.button);
 }
 
 // Opening and closing
@@ -156,7 +130,8 @@ void PasteSheet::followMode() {
 void PasteSheet::present() {
     if (isVisible()) return;
     before_ = QApplication::focusWidget();
-    field_->margin().setVision(state_.vision);
+    followWords();
+    field_->margin().setVision(target_.vision);
     say(summary(), false);
     place();
     show();
@@ -255,17 +230,7 @@ void PasteSheet::accept() {
     const auto reading = field_->margin().reading();
     field_->editor().empty();
     dismiss();
-    hand(reading);
-}
-
-void PasteSheet::hand(const PasteReading& reading) {
-    const auto& swatches = reading.swatches;
-    if (state_.mode.value() == HarmonyMode::paletteBuilder)
-        state_.receiveSwatches(swatches);
-    else if (state_.mode.value() == HarmonyMode::ramp && swatches.size() > 1)
-        state_.restoreSeeds({swatches[0].color, swatches[1].color, true});
-    else
-        state_.setSeed(AppState::SeedRole::first, swatches[0].color);
+    target_.take(reading.swatches);
 }
 
 // Keyboard and pointer

@@ -1,27 +1,49 @@
 #pragma once
 
-#include "state/AppState.h"
+#include "colour/Vision.h"
 #include "ui/Ui.h"
 #include "ui/paste/PasteReader.h"
+#include "ui/shared/Subscriptions.h"
 
 #include <QPointer>
+#include <QProperty>
 #include <QPropertyNotifier>
+#include <QString>
 #include <QWidget>
-#include <vector>
+#include <functional>
+#include <span>
 
 class QLabel;
 class QPushButton;
 
 namespace tintra {
 
+class AppState;
 class PasteField;
 
-/// "Type or paste values": a sheet from the top of a palette window, over all of it, which keeps
-/// the keyboard until it is closed. What is read goes into the palette, or becomes the seeds of a
-/// harmony. Main loop.
+/// Where the colours of a sheet go.
+struct PasteTarget {
+    struct Words {
+        QString explanation, button;
+    };
+    /// Asked for each time the sheet opens, and when they change.
+    std::function<Words()> words;
+    /// Is handed at least one.
+    std::function<void(std::span<const PaletteFile::Swatch>)> take;
+    /// What the window is seen with; outlives the sheet.
+    const QProperty<Vision>& vision;
+    /// Calls back when the words change, for as long as the answer lives; none where they stay.
+    std::function<QPropertyNotifier(std::function<void()>)> wordsChanged{};
+};
+
+/// Into the palette; in a harmony mode they become the seeds.
+PasteTarget pasteTarget(AppState& state);
+
+/// "Type or paste values": a sheet from the top of a main window, over all of it, which keeps the
+/// keyboard until it is closed. Main loop.
 class PasteSheet final : public QWidget {
 public:
-    PasteSheet(Ui& ui, AppState& state, QWidget* window);
+    PasteSheet(Ui& ui, PasteTarget target, QWidget* window);
     ~PasteSheet() override;
 
     /// Opens with the text that stood in it when it was last cancelled.
@@ -43,19 +65,18 @@ private:
 
     void assemble();
     void follow();
-    void followMode();
+    void followWords();
     void place();
     void slideIn();
     void read();
     void take(PasteReading reading);
     void accept();
-    void hand(const PasteReading& reading);
     void refuse(const QString& why);
     void say(const QString& words, bool isRefusal);
     QString summary() const;
 
     Ui& ui_;
-    AppState& state_;
+    PasteTarget target_;
     PasteReader reader_;
     Panel* panel_;
     QLabel* title_;
@@ -67,7 +88,8 @@ private:
     QPushButton* cancel_;
     QPointer<QWidget> before_; ///< had the keyboard
     bool acceptsOnceRead_ = false;
-    std::vector<QPropertyNotifier> subscriptions_;
+    Subscriptions subscriptions_;
+    QPropertyNotifier wordsChanged_;
 };
 
 } // namespace tintra

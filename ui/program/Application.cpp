@@ -3,9 +3,12 @@
 #include "colour/ColorNames.h"
 #include "state/Preferences.h"
 #include "state/Workspaces.h"
+#include "ui/bench/BenchWindow.h"
+#include "ui/contrast/ContrastWindow.h"
 #include "ui/exporting/ExportDialogue.h"
 #include "ui/help/AboutWindow.h"
 #include "ui/help/ShortcutsWindow.h"
+#include "ui/library/LibraryWindow.h"
 #include "ui/palette/PaletteWindow.h"
 #include "ui/settings/SettingsWindow.h"
 #include "ui/shared/Canvas.h"
@@ -14,6 +17,7 @@
 
 #include <QApplication>
 #include <algorithm>
+#include <type_traits>
 #include <utility>
 
 namespace tintra {
@@ -66,23 +70,36 @@ Application::Application(Surroundings surroundings)
         else
             answered(std::nullopt);
     };
-    toasts_.barOf = [this](const ToastPlace& place) -> NoticeBar* {
-        if (place.window == ToastWindow::settings && settings_) return &settings_->notices();
-        auto* window = place.window == ToastWindow::palette ? palette(place.palette) : nullptr;
-        return window ? &window->notices() : nullptr;
-    };
+    connectNotices();
     connectModels();
     applyTheme();
 }
 
 Application::~Application() {
+    delete bench_;
+    delete contrast_;
+    delete library_;
     delete settings_;
     delete shortcuts_;
     delete about_;
 }
 
+void Application::connectNotices() {
+    toasts_.barOf = [this](const ToastPlace& place) -> NoticeBar* {
+        if (place.window == ToastWindow::settings && settings_) return &settings_->notices();
+        auto* window = mainWindow(place);
+        return window ? &window->notices() : nullptr;
+    };
+}
+
 void Application::connectModels() {
     auto& requests = models_.preferences().windows;
+    requests.openMainWindow = [this] { requests_.activate(); };
+    requests.openBenchWindow = [this] { openBench(); };
+    requests.openContrastWindow = [this] { openContrast(); };
+    requests.openLibraryWindow = [this] { openLibrary(); };
+    // Who sends one colour after the other goes on where he is.
+    models_.bench().openWindow = [this] { showBeside(bench_); };
     requests.openSettingsWindow = [this] { openSettings(); };
     requests.openShortcutsWindow = [this] { openShortcuts(); };
     requests.openAboutWindow = [this] { openAbout(); };
@@ -108,8 +125,12 @@ void Application::applyTheme() {
 }
 
 void Application::start(const std::vector<std::filesystem::path>& files) {
-    models_.start([this](const Uuid& id) { openPalette(id); });
-    if (palettes_.empty()) openPalette(models_.workspaces().openPrimary().id());
+    const auto opening = models_.start([this](const Uuid& id) { openPalette(id); });
+    if (opening.library) showBeside(library_);
+    if (opening.bench) showBeside(bench_);
+    if (opening.contrast) showBeside(contrast_);
+    if (palettes_.empty() && opening == Models::Opening{})
+        openPalette(models_.workspaces().openPrimary().id());
     if (!files.empty()) requests_.open(files);
 }
 
@@ -127,7 +148,24 @@ std::vector<PaletteWindow*> Application::palettes() const {
 
 QWidget* Application::window(const ToastPlace& place) const {
     if (place.window == ToastWindow::settings) return settings_;
-    return place.window == ToastWindow::palette ? palette(place.palette) : nullptr;
+    return mainWindow(place);
+}
+
+MainWindow* Application::mainWindow(const ToastPlace& place) const {
+    switch (place.window) {
+    case ToastWindow::palette:
+        return palette(place.palette);
+    case ToastWindow::bench:
+        return bench_;
+    case ToastWindow::contrast:
+        return contrast_;
+    case ToastWindow::library:
+        return library_;
+    case ToastWindow::settings:
+    case ToastWindow::none:
+        break;
+    }
+    return nullptr;
 }
 
 void Application::openPalette(const Uuid& id) {
@@ -158,14 +196,40 @@ void Application::closePalette(const Uuid& id) {
 }
 
 template <class Window>
-void Application::showOnly(QPointer<Window>& window) {
+Window& Application::only(QPointer<Window>& window) {
     if (!window) {
         window = new Window(ui_);
         window->setAttribute(Qt::WA_DeleteOnClose);
-        // The program is its palettes: none of these keeps it running.
-        window->setAttribute(Qt::WA_QuitOnClose, false);
+        // Settings and help do not keep the program running.
+        window->setAttribute(Qt::WA_QuitOnClose, std::is_base_of_v<MainWindow, Window>);
     }
-    bringUp(*window);
+    return *window;
+}
+
+template <class Window>
+void Application::showOnly(QPointer<Window>& window) {
+    bringUp(only(window));
+}
+
+template <class Window>
+void Application::showBeside(QPointer<Window>& window) {
+    if (window) return;
+    auto& shown = only(window);
+    shown.setAttribute(Qt::WA_ShowWithoutActivating);
+    shown.show();
+    shown.setAttribute(Qt::WA_ShowWithoutActivating, false);
+}
+
+void Application::openBench() {
+    showOnly(bench_);
+}
+
+void Application::openContrast() {
+    showOnly(contrast_);
+}
+
+void Application::openLibrary() {
+    showOnly(library_);
 }
 
 void Application::openSettings() {

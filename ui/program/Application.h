@@ -22,6 +22,10 @@
 namespace tintra {
 
 class AboutWindow;
+class BenchWindow;
+class ContrastWindow;
+class LibraryWindow;
+class MainWindow;
 class SettingsWindow;
 class ShortcutsWindow;
 
@@ -42,6 +46,9 @@ public:
     QWidget* window(const ToastPlace& place) const override;
     void openPalette(const Uuid& id) override;
     void closePalette(const Uuid& id) override;
+    void openBench() override;
+    void openContrast() override;
+    void openLibrary() override;
     void openSettings() override;
     void openShortcuts() override;
     void openAbout() override;
@@ -51,12 +58,21 @@ public:
 private:
     void applyTheme();
     void connectModels();
+    void connectNotices();
+    /// The main window of a place; none while it is closed.
+    MainWindow* mainWindow(const ToastPlace& place) const;
     bool isOnlyWindow(const QWidget* window) const;
     /// Ends the program without a question: everything is kept and comes back.
     void leave();
-    /// Shows the one window of its kind, made when first asked for.
+    /// The one window of its kind, made when it is not open.
+    template <class Window>
+    Window& only(QPointer<Window>& window);
+    /// Shows it at the front, with the keyboard.
     template <class Window>
     void showOnly(QPointer<Window>& window);
+    /// Shows it and leaves the keyboard where it is; nothing when it is open.
+    template <class Window>
+    void showBeside(QPointer<Window>& window);
 
     std::unique_ptr<DesktopSettings> desktopSettings_;
     NoticeHistory notices_;
@@ -69,6 +85,9 @@ private:
     SwatchPainter painter_;
     Ui ui_;
     std::unordered_map<Uuid, std::unique_ptr<PaletteWindow>> palettes_;
+    QPointer<BenchWindow> bench_;
+    QPointer<ContrastWindow> contrast_;
+    QPointer<LibraryWindow> library_;
     QPointer<SettingsWindow> settings_;
     QPointer<ShortcutsWindow> shortcuts_;
     QPointer<AboutWindow> about_;

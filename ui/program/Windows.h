@@ -27,6 +27,10 @@ public:
     virtual void openPalette(const Uuid& id) = 0;
     /// Asks about unsaved changes, then closes.
     virtual void closePalette(const Uuid& id) = 0;
+    // Each the one of its kind; brought to the front when it is open.
+    virtual void openBench() = 0;
+    virtual void openContrast() = 0;
+    virtual void openLibrary() = 0;
     virtual void openSettings() = 0;
     virtual void openShortcuts() = 0;
     virtual void openAbout() = 0;

@@ -1,8 +1,9 @@
 #include "ui/settings/LocationsList.h"
 
-#include "platform/Locations.h"
 #include "state/Models.h"
+#include "ui/shared/Badge.h"
 #include "ui/shared/Controls.h"
+#include "ui/shared/LocationMenu.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
@@ -19,40 +20,8 @@ namespace tintra {
 namespace {
 
 constexpr int kRow = 44, kCheck = 16, kEdge = 10, kWords = 36, kChevron = 28, kIcon = 16;
-constexpr int kBadge = 18, kBadgeSide = 7, kGap = 8;
+constexpr int kGap = 8;
 constexpr qsizetype kLongestTag = 24;
-
-/// A path as people write it: their own folder is "~".
-QString shortPath(const std::filesystem::path& path) {
-    const auto home = homeFolder().string();
-    const auto text = path.string();
-    if (!home.empty() && text.starts_with(home + "/"))
-        return QLatin1Char('~') + oneLine(std::string_view(text).substr(home.size()), 1000);
-    return oneLine(text, 1000);
-}
-
-QFont badgeFont(const Theme& theme) {
-    auto font = theme.font(TextStyle::caption);
-    font.setWeight(QFont::DemiBold);
-    return font;
-}
-
-/// Paints a chip that ends at `right`; answers where it begins.
-qreal paintBadge(QPainter& painter, const Theme& theme, const QString& text, qreal right,
-                 qreal middle, bool isFilled) {
-    const auto font = badgeFont(theme);
-    const auto width = QFontMetricsF(font).horizontalAdvance(text) + 2 * kBadgeSide;
-    const auto height = theme.scaled(kBadge);
-    const QRectF place(right - width, middle - height / 2.0, width, height);
-    painter.setPen(QPen(theme.color(isFilled ? Token::sel : Token::edge), 1));
-    painter.setBrush(isFilled ? QBrush(theme.color(Token::sel)) : QBrush(Qt::NoBrush));
-    painter.drawRoundedRect(place.adjusted(0.5, 0.5, -0.5, -0.5), metrics::kChipRadius,
-                            metrics::kChipRadius);
-    painter.setFont(font);
-    painter.setPen(theme.color(isFilled ? Token::onsel : Token::ink2));
-    painter.drawText(place, Qt::AlignCenter, text);
-    return place.left() - kGap;
-}
 
 } // namespace
 
@@ -92,7 +61,7 @@ CanvasItem LocationsList::rowItem(std::size_t index, const QRectF& rect) const {
             .index = index,
             .role = QAccessible::CheckBox,
             .name = oneLine(location.nickname),
-            .value = shortPath(location.path),
+            .value = shownPath(location.path),
             .description = said.join(QStringLiteral(", ")),
             .checked = location.isEnabled};
 }
@@ -161,7 +130,7 @@ void LocationsList::paintRow(QPainter& painter, const PaletteLocation& location,
                          QFontMetricsF(font).elidedText(text, elide, room));
     };
     write(TextStyle::body, Token::ink, top, line, oneLine(location.nickname), Qt::ElideRight);
-    write(TextStyle::small, Token::ink3, top + line, under, shortPath(location.path),
+    write(TextStyle::small, Token::ink3, top + line, under, shownPath(location.path),
           Qt::ElideMiddle);
 }
 
@@ -169,11 +138,13 @@ qreal LocationsList::paintBadges(QPainter& painter, const PaletteLocation& locat
                                  const QRectF& rect) const {
     auto right = rect.right() - theme().scaled(kChevron) - 6 - kGap;
     const auto middle = rect.center().y();
-    if (!isOnline(location))
-        right = paintBadge(painter, theme(), worded("OFFLINE"), right, middle, true);
-    if (location.tag)
-        right =
-            paintBadge(painter, theme(), oneLine(*location.tag, kLongestTag), right, middle, false);
+    const auto paint = [&](const QString& text, BadgeFill fill) {
+        right -= badgeWidth(theme(), text);
+        paintBadge(painter, theme(), text, right, middle, fill);
+        right -= kGap;
+    };
+    if (!isOnline(location)) paint(worded("OFFLINE"), BadgeFill::yes);
+    if (location.tag) paint(oneLine(*location.tag, kLongestTag), BadgeFill::no);
     return right;
 }
 
@@ -222,28 +193,10 @@ void LocationsList::openMenu(std::size_t index) {
     const auto location = all()[index];
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    fillMenu(*menu, location);
+    fillLocationMenu(*menu, locations_, location);
     const auto at = find(chevron, index);
     const auto under = items()[static_cast<std::size_t>(at)].rect.toAlignedRect();
     menu->popup(mapToGlobal(under.bottomLeft()));
-}
-
-void LocationsList::fillMenu(QMenu& menu, const PaletteLocation& location) {
-    const auto id = location.id;
-    menu.addAction(worded("Rename…"), [this, id] { locations_.rename(id); });
-    menu.addAction(worded("Tag…"), [this, id] { locations_.tag(id); });
-    if (location.tag) menu.addAction(worded("Remove Tag"), [this, id] { locations_.untag(id); });
-    const bool includes = location.includesStylesheets;
-    auto* sheets = menu.addAction(shown("Include Stylesheets"), [this, id, includes] {
-        locations_.setIncludesStylesheets(id, !includes);
-    });
-    sheets->setCheckable(true);
-    sheets->setChecked(includes);
-    menu.addSeparator();
-    menu.addAction(worded("Reveal"), [this, id] { locations_.reveal(id); });
-    menu.addAction(worded("Choose Again…"), [this, id] { locations_.rechoose(id); });
-    menu.addSeparator();
-    menu.addAction(worded("Stop Watching"), [this, id] { locations_.remove(id); });
 }
 
 } // namespace tintra

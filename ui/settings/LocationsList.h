@@ -9,8 +9,6 @@
 #include <functional>
 #include <vector>
 
-class QMenu;
-
 namespace tintra {
 
 /// The folders that the Library watches: a check, nickname and path, tag, OFFLINE, and a chevron
@@ -42,7 +40,6 @@ private:
     qreal paintBadges(QPainter& painter, const PaletteLocation& location, const QRectF& rect) const;
     void toggle(std::size_t index);
     void openMenu(std::size_t index);
-    void fillMenu(QMenu& menu, const PaletteLocation& location);
     void takeLocations();
 
     Ui& ui_;

@@ -167,6 +167,8 @@ void Canvas::layOut() {
 }
 
 void Canvas::setItem(int item, CanvasItem now) {
+    if (item < 0 || item >= static_cast<int>(items_.size())) return;
+    repaintItem(item);
     const auto was = std::exchange(items_[static_cast<std::size_t>(item)], std::move(now));
     repaintItem(item);
     announceChange(was, item);

@@ -23,7 +23,8 @@ struct CanvasItem {
     QAccessible::Role role = QAccessible::NoRole;
     QString name{}, value{}, description{};
     bool selected = false;
-    std::optional<bool> checked{}; ///< none for what is not checked and unchecked
+    std::optional<bool> checked{};  ///< none for what is not checked and unchecked
+    std::optional<bool> expanded{}; ///< none for what is not folded and unfolded
 };
 
 /// A painted view of items: one stop of the Tab key, walked with the arrows. A subclass says where
@@ -87,7 +88,7 @@ protected:
     virtual bool activates(const CanvasItem& item) const;
     /// Makes one item the selected one (-1: none), without laying out anew.
     void markSelected(int item);
-    /// Puts an item in the place of one that has the same rectangle, without laying out anew.
+    /// Puts what has changed of one item in its place, and repaints it where it was and is.
     void setItem(int item, CanvasItem now);
     /// How far beyond its rectangle an item paints, px.
     virtual int overhang() const { return 6; }

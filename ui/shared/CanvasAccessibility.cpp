@@ -68,6 +68,9 @@ public:
         state.disabled = !canvas_->isEnabled();
         state.checkable = it->checked.has_value();
         state.checked = it->checked.value_or(false);
+        state.expandable = it->expanded.has_value();
+        state.expanded = it->expanded.value_or(false);
+        state.collapsed = it->expanded && !*it->expanded;
         state.focused = canvas_->hasFocus() && canvas_->focused() == index_;
         state.invisible = !canvas_->isVisible();
         return state;

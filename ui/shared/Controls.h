@@ -90,6 +90,8 @@ public:
     void setInverted(bool inverted);
     /// Fills the menu each time it opens.
     std::function<void(QMenu&)> fill;
+    /// Opens something else in the menu's place.
+    std::function<void()> open;
     void openMenu();
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

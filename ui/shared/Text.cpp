@@ -1,5 +1,7 @@
 #include "ui/shared/Text.h"
 
+#include "platform/Locations.h"
+
 #include <QCoreApplication>
 #include <array>
 
@@ -92,6 +94,15 @@ QString oneLine(std::string_view name, qsizetype most) {
     auto cut = most - 1;
     if (text[cut].isLowSurrogate()) --cut;
     return text.left(cut) + QChar(0x2026);
+}
+
+QString shownPath(const std::filesystem::path& path) {
+    constexpr qsizetype kMost = 1000;
+    const auto home = homeFolder().string();
+    const auto text = path.string();
+    if (!home.empty() && text.starts_with(home + "/"))
+        return QLatin1Char('~') + oneLine(std::string_view(text).substr(home.size()), kMost);
+    return oneLine(text, kMost);
 }
 
 } // namespace tintra

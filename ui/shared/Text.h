@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -25,5 +26,8 @@ QString worded(const char* one, const char* many, qsizetype count);
 /// A name of any length, on one line: control characters are blanks, at most `most` characters with
 /// an ellipsis, safe beside left-to-right text whatever its direction.
 QString oneLine(std::string_view name, qsizetype most = 200);
+
+/// A path as people write it, on one line: their own folder is "~".
+QString shownPath(const std::filesystem::path& path);
 
 } // namespace tintra

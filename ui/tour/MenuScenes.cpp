@@ -30,7 +30,7 @@ QImage picture(Stage& stage, const std::function<void(QMenu&)>& fill, int chosen
 QImage menus(Stage& stage) {
     stage.fill(harbourLight(), {1040, 588});
     stage.state().selectedSwatch = 1;
-    const ActionContext context{stage.ui(), &stage.window()};
+    const auto context = stage.window().context();
     return sheet(
         {picture(
              stage, [&](QMenu& menu) { fillSwatchMenu(menu, context); }, 0),
@@ -40,7 +40,8 @@ QImage menus(Stage& stage) {
          picture(
              stage, [&](QMenu& menu) { fillModeMenu(menu, stage.state()); }, 8),
          picture(
-             stage, [&](QMenu& menu) { fillVisionMenu(menu, stage.state(), stage.ui().theme); },
+             stage,
+             [&](QMenu& menu) { fillVisionMenu(menu, stage.state().vision, stage.ui().theme); },
              0)},
         4);
 }
@@ -48,11 +49,12 @@ QImage menus(Stage& stage) {
 QImage everyMenu(Stage& stage) {
     stage.fill(harbourLight(), {1040, 588});
     stage.state().selectedSwatch = 1;
-    const ActionContext context{stage.ui(), &stage.window()};
+    const auto context = stage.window().context();
     std::vector<QImage> all;
     for (int id = 0; id < static_cast<int>(MenuId::none); ++id)
-        all.push_back(picture(
-            stage, [&](QMenu& menu) { fillMenu(menu, static_cast<MenuId>(id), context); }, -1));
+        if (hasMenu(WindowKind::palette, static_cast<MenuId>(id)))
+            all.push_back(picture(
+                stage, [&](QMenu& menu) { fillMenu(menu, static_cast<MenuId>(id), context); }, -1));
     all.push_back(picture(
         stage, [&](QMenu& menu) { fillMoreMenu(menu, [context] { return context; }); }, -1));
     return sheet(all, 4);

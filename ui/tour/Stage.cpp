@@ -100,7 +100,7 @@ void Stage::fill(const Palette& palette, QSize size) {
 }
 
 void Stage::perform(ActionId action) {
-    if (!tintra::perform(action, {ui(), &window()}))
+    if (!tintra::perform(action, window().context()))
         throw std::logic_error("a scene asks for what cannot be done now");
     settle();
 }

@@ -28,7 +28,7 @@ constexpr std::array kLooks{
 std::vector<Scene> allScenes() {
     std::vector<Scene> all;
     for (const auto group : {paletteScenes(), editorScenes(), pictureScenes(), menuScenes(),
-                             sheetScenes(), dialogueScenes(), settingsScenes()})
+                             sheetScenes(), dialogueScenes(), settingsScenes(), benchScenes()})
         all.insert(all.end(), group.begin(), group.end());
     return all;
 }

@@ -26,6 +26,7 @@ void QtClipboard::set(const Content& content) {
         data->setData(QStringLiteral("image/png"),
                       QByteArray(reinterpret_cast<const char*>(content.png.data()),
                                  static_cast<qsizetype>(content.png.size())));
+    if (!content.html.empty()) data->setHtml(QString::fromStdString(content.html));
     if (content.colour) {
         const auto [r, g, b, a] = *content.colour;
         data->setColorData(

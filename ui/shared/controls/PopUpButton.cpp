@@ -34,6 +34,10 @@ void PopUpButton::setInverted(bool inverted) {
 }
 
 void PopUpButton::openMenu() {
+    if (open) {
+        open();
+        return;
+    }
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (fill) fill(*menu);

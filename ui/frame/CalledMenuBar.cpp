@@ -1,4 +1,4 @@
-#include "ui/palette/CalledMenuBar.h"
+#include "ui/frame/CalledMenuBar.h"
 
 #include <QApplication>
 #include <QFocusEvent>

@@ -1,0 +1,70 @@
+#include "ui/contrast/SpecimenFace.h"
+
+#include "colour/Contrast.h"
+#include "state/ContrastBoard.h"
+#include "ui/shared/Text.h"
+#include "ui/shared/Theme.h"
+
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace tintra {
+namespace {
+
+struct Cut {
+    int weight; ///< 100...900
+    QString style;
+};
+
+/// The upright cuts of a family.
+std::vector<Cut> cutsOf(const QString& family) {
+    std::vector<Cut> cuts;
+    for (const auto& style : QFontDatabase::styles(family))
+        if (!QFontDatabase::italic(family, style))
+            cuts.push_back({QFontDatabase::weight(family, style), style});
+    return cuts;
+}
+
+/// Qt would thicken a cut that is lighter than what is asked of it; it is asked for what it has.
+QFont fontOf(const QString& family, double size, int weight) {
+    QFont font(family);
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(size))));
+    font.setWeight(static_cast<QFont::Weight>(weight));
+    return font;
+}
+
+} // namespace
+
+SpecimenFace specimenFace(const ContrastBoard& board, const Theme& theme) {
+    const auto own = QFontInfo(theme.font(TextStyle::body)).family();
+    const auto& wanted = board.family.value();
+    const auto asked = wanted ? fromUtf8(*wanted) : own;
+    const bool isHere = QFontDatabase::hasFamily(asked);
+    const auto family = isHere ? asked : own;
+    const auto cuts = cutsOf(family);
+    std::vector<int> weights;
+    for (const auto& cut : cuts)
+        weights.push_back(cut.weight);
+    const auto used = Contrast::cssMatch(board.weight, weights);
+    if (!used) return {fontOf(family, board.size, board.weight), family};
+    const auto cut = std::ranges::find(cuts, *used, &Cut::weight);
+    const auto name = oneLine(toUtf8(family + u' ' + cut->style), 80);
+    auto note = name + worded(Contrast::needsSyntheticBold(board.weight, *used)
+                                  ? ", as a browser would choose; a browser would then thicken it "
+                                    "into a synthetic bold, which this does not."
+                                  : ", as a browser would choose");
+    if (!isHere) note = worded("%1 is not installed: ").arg(oneLine(toUtf8(asked), 60)) + note;
+    return {fontOf(family, board.size, *used), note};
+}
+
+QStringList specimenFamilies() {
+    auto families = QFontDatabase::families(QFontDatabase::Latin);
+    families.removeIf([](const QString& family) { return QFontDatabase::isPrivateFamily(family); });
+    families.removeDuplicates();
+    return families;
+}
+
+} // namespace tintra
