@@ -3,6 +3,7 @@
 #include "state/Models.h"
 #include "ui/contrast/ContrastDrops.h"
 #include "ui/contrast/EntryList.h"
+#include "ui/shared/ColourDrag.h"
 #include "ui/shared/PlacedField.h"
 #include "ui/shared/SwatchPainter.h"
 #include "ui/shared/Text.h"
@@ -10,7 +11,6 @@
 
 #include <QApplication>
 #include <QContextMenuEvent>
-#include <QDrag>
 #include <QDropEvent>
 #include <QMenu>
 #include <QMouseEvent>
@@ -135,14 +135,10 @@ void EntryList::startDrag(std::size_t at) {
     const auto item = static_cast<std::size_t>(find(entry, at));
     look.name = items()[item].name;
     look.code = items()[item].value;
-    QDrag drag(this);
-    drag.setMimeData(
-        mimeOf({held.color, held.givenName, DragOfContrastEntry{held.id}}, look.code).release());
-    drag.setPixmap(ui_.painter.card(look, {128, 96}, false, devicePixelRatioF()));
-    drag.setHotSpot({30, 30});
     board_.draggingEntry = held.id;
     const QPointer<EntryList> self(this);
-    drag.exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
+    dragColour(*this, ui_.painter, {held.color, held.givenName, DragOfContrastEntry{held.id}}, look,
+               kDragCard);
     // The window may have been closed in the middle of the drag.
     if (self) board_.draggingEntry = std::nullopt;
 }

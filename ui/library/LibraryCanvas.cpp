@@ -111,13 +111,14 @@ std::vector<CanvasItem> LibraryCanvas::layoutItems(QSizeF size) const {
     std::vector<CanvasItem> items;
     const auto& lines = layout_.lines();
     const qreal top = bar_->value();
-    const auto focused = place_ ? lineOf(*place_) : std::nullopt;
+    const auto none = lines.size();
+    const auto focused = place_ ? lineOf(*place_).value_or(none) : none;
     const auto first = layout_.lineAt(top);
-    if (focused && *focused < first) addLine(items, *focused);
+    if (focused < first) addLine(items, focused);
     auto at = first;
     for (; at < lines.size() && lines[at].top < top + size.height(); ++at)
         addLine(items, at);
-    if (focused && *focused >= at && *focused < lines.size()) addLine(items, *focused);
+    if (focused >= at && focused < lines.size()) addLine(items, focused);
     return items;
 }
 

@@ -4,6 +4,7 @@
 #include "ui/library/LibraryCanvas.h"
 #include "ui/library/LibraryItems.h"
 #include "ui/library/LibraryWords.h"
+#include "ui/shared/ColourDrag.h"
 #include "ui/shared/ColourMime.h"
 #include "ui/shared/SwatchPainter.h"
 #include "ui/shared/Theme.h"
@@ -379,12 +380,8 @@ void LibraryCanvas::startDrag(const CanvasItem& item) {
         look.color = held.color;
         look.name = swatchName(held);
         look.code = swatchCode(ui_, held);
-        auto* drag = new QDrag(this);
-        drag->setMimeData(
-            mimeOf({held.color, held.name, DragOfLibrarySwatch{}}, look.code).release());
-        drag->setPixmap(ui_.painter.card(look, {96, 72}, false, ratio));
-        drag->setHotSpot({30, 30});
-        drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::CopyAction);
+        dragColour(*this, ui_.painter, {held.color, held.name, DragOfLibrarySwatch{}}, look,
+                   kSmallDragCard);
         return;
     }
     if (item.kind != palette) return;

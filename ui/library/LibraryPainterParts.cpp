@@ -112,8 +112,9 @@ void LibraryPainter::mosaic(QPainter& painter, const QRectF& in, std::size_t fin
         return;
     }
     const auto& swatches = palette.palette->swatches;
-    const auto matched = matchOf(model_, find).swatch ? model_.listing().finds[find].hit.index
-                                                      : std::optional<std::size_t>();
+    const auto none = swatches.size();
+    const auto matched =
+        matchOf(model_, find).swatch ? model_.listing().finds[find].hit.index.value_or(none) : none;
     constexpr auto kRound = metrics::kGroupRadius;
     QRectF place;
     for (const auto& cell : mosaicCells(in, swatches.size())) {
@@ -123,7 +124,7 @@ void LibraryPainter::mosaic(QPainter& painter, const QRectF& in, std::size_t fin
     }
     ui_.painter.hairline(painter, in, 0);
     if (place.isEmpty()) return;
-    const auto ink = ui_.painter.foreground(swatches[*matched].color, Vision::typical);
+    const auto ink = ui_.painter.foreground(swatches[matched].color, Vision::typical);
     painter.setPen(QPen(ink, metrics::kFocusWidth));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(place.adjusted(2, 2, -2, -2));
