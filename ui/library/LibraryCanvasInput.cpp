@@ -113,9 +113,6 @@ void LibraryCanvas::walkPage(int by) {
     const auto y =
         (from < lines.size() ? lines[from].top : 0) + by * (height() - lines.front().height);
     const auto last = lines.size() - 1;
-    // Behind the last line, where nothing is: every line is another one.
-    const auto from = (place_ ? lineOf(*place_) : std::nullopt).value_or(lines.size());
-    const auto y = (from <= last ? lines[from].top : 0) + by * (height() - lines.front().height);
     auto at = std::min(layout_.lineAt(std::max<qreal>(y, 0)), last);
     if (at == from && by > 0) at = std::min(at + 1, last);
     if (const auto to = placeOnLine(at, 0)) moveTo(*to);
