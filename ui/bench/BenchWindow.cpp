@@ -9,8 +9,8 @@
 #include "ui/bench/WellEditor.h"
 #include "ui/frame/FactsLine.h"
 #include "ui/frame/ToolLine.h"
-#include "ui/palette/CanvasScroll.h"
 #include "ui/paste/PasteSheet.h"
+#include "ui/shared/CanvasScroll.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Text.h"
 
