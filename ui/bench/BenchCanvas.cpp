@@ -22,7 +22,7 @@ using Of = BenchSelection::Of;
 constexpr double kFlash = 0.12; ///< seconds
 constexpr qreal kLink = 8;      ///< height of the item of a line
 // While it is empty.
-constexpr int kEmptyWidth = 300, kHeadline = 28, kHintLines = 2, kActionGap = 12, kAction = 36;
+constexpr int kEmptyWidth = 276, kHeadline = 28, kHintLines = 2, kActionGap = 12, kAction = 36;
 
 ColumnPair pairOf(const BenchContent& content, const BenchWell& well) {
     const auto a = content.indexOfColumn(well.parentA).value_or(0);
@@ -312,7 +312,7 @@ void BenchCanvas::beginRename() {
     field_->kept = [this, id = of.id](const QString& name) {
         renameOnBench(ui_.models, id, toUtf8(name));
     };
-    connect(field_, &QObject::destroyed, this, [this] { update(); });
+    field_->ended = [this] { update(); };
     repaintItem(item);
 }
 

@@ -98,9 +98,10 @@ void BenchWindow::syncFacts() {
     auto words = colours == 0 ? worded("No colours") : worded("%n colour", "%n colours", colours);
     if (mixes > 0) words += worded(" · ") + worded("%n mix", "%n mixes", mixes);
     tools_->setWords(words);
-    auto facts = colours > 1 ? worded("Contrast between neighbours: WCAG 2.2 ratio") : QString();
+    QStringList facts;
+    if (colours > 1) facts << worded("Contrast between neighbours: WCAG 2.2 ratio");
     if (bench.isReorderingPaused())
-        facts += worded(". ") + worded("Reordering is paused while a well is on the Bench");
+        facts << worded("Reordering is paused while a well is on the Bench");
     facts_->setFacts(facts);
 }
 
