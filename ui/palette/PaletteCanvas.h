@@ -55,6 +55,7 @@ protected:
     void focusMoved(int item) override;
     void hoverMoved(int item, QPointF place) override;
     int neighbour(int from, Qt::Key key) const override;
+    int overhang() const override { return 8; }
 
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
