@@ -107,12 +107,16 @@ std::optional<std::size_t> LibraryCanvas::lineOf(const Place& place) const {
     return std::nullopt;
 }
 
+std::size_t LibraryCanvas::focusedLine() const {
+    const auto none = layout_.lines().size();
+    return place_ ? lineOf(*place_).value_or(none) : none;
+}
+
 std::vector<CanvasItem> LibraryCanvas::layoutItems(QSizeF size) const {
     std::vector<CanvasItem> items;
     const auto& lines = layout_.lines();
     const qreal top = bar_->value();
-    const auto none = lines.size();
-    const auto focused = place_ ? lineOf(*place_).value_or(none) : none;
+    const auto focused = focusedLine();
     const auto first = layout_.lineAt(top);
     if (focused < first) addLine(items, focused);
     auto at = first;

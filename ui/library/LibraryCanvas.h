@@ -75,6 +75,8 @@ private:
     QRectF inView(const QRectF& rect) const;
     /// The line on which a place is; none while it is folded.
     std::optional<std::size_t> lineOf(const Place& place) const;
+    /// The line of the keyboard; one beyond the last where it is nowhere.
+    std::size_t focusedLine() const;
     std::optional<std::size_t> lineWith(std::size_t find) const { return layout_.lineOf(find); }
     std::vector<LibraryButton> buttonsOf(const CanvasItem& item) const;
     int buttonAt(int item, QPointF place) const;

@@ -96,11 +96,12 @@ std::optional<LibraryCanvas::Place> LibraryCanvas::placeOnLine(std::size_t at, q
 
 void LibraryCanvas::walkLines(int by) {
     const auto& lines = layout_.lines();
-    const auto from = place_ ? lineOf(*place_) : std::nullopt;
+    const auto from = focusedLine();
+    const bool isAnywhere = from < lines.size();
     qreal column = 0;
-    if (from && place_->kind == palette)
-        column = static_cast<qreal>(place_->index - lines[*from].first);
-    auto at = from ? static_cast<std::ptrdiff_t>(*from) + by : 0;
+    if (isAnywhere && place_->kind == palette)
+        column = static_cast<qreal>(place_->index - lines[from].first);
+    auto at = isAnywhere ? static_cast<std::ptrdiff_t>(from) + by : 0;
     for (; at >= 0 && at < static_cast<std::ptrdiff_t>(lines.size()); at += by)
         if (const auto to = placeOnLine(static_cast<std::size_t>(at), column)) return moveTo(*to);
 }
@@ -108,11 +109,12 @@ void LibraryCanvas::walkLines(int by) {
 void LibraryCanvas::walkPage(int by) {
     const auto& lines = layout_.lines();
     if (lines.empty()) return;
-    const auto from = place_ ? lineOf(*place_) : std::nullopt;
-    const auto y = (from ? lines[*from].top : 0) + by * (height() - lines.front().height);
+    const auto from = focusedLine();
+    const auto y =
+        (from < lines.size() ? lines[from].top : 0) + by * (height() - lines.front().height);
     const auto last = lines.size() - 1;
     auto at = std::min(layout_.lineAt(std::max<qreal>(y, 0)), last);
-    if (from && at == *from && by > 0) at = std::min(at + 1, last);
+    if (at == from && by > 0) at = std::min(at + 1, last);
     if (const auto to = placeOnLine(at, 0)) moveTo(*to);
 }
 
