@@ -15,6 +15,7 @@
 #include "ui/shared/Text.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QVBoxLayout>
 #include <array>
@@ -194,6 +195,14 @@ void BenchWindow::showEvent(QShowEvent* event) {
 void BenchWindow::closeEvent(QCloseEvent* event) {
     ui().models.bench().isWindowOpen = false;
     MainWindow::closeEvent(event);
+}
+
+void BenchWindow::keyPressEvent(QKeyEvent* event) {
+    // Back from the mix to what is mixed.
+    if (event->key() == Qt::Key_Escape && editor_->isAncestorOf(focusWidget()))
+        canvas_->setFocus(Qt::TabFocusReason);
+    else
+        MainWindow::keyPressEvent(event);
 }
 
 } // namespace tintra
