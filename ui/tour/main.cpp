@@ -29,7 +29,7 @@ std::vector<Scene> allScenes() {
     std::vector<Scene> all;
     for (const auto group :
          {paletteScenes(), editorScenes(), pictureScenes(), menuScenes(), sheetScenes(),
-          dialogueScenes(), settingsScenes(), benchScenes(), libraryScenes()})
+          dialogueScenes(), settingsScenes(), benchScenes(), contrastScenes(), libraryScenes()})
         all.insert(all.end(), group.begin(), group.end());
     return all;
 }

@@ -6,8 +6,9 @@ from gi.repository import GLib
 from desktop import NotSeen, until
 
 PREFIX = "org.a11y.atspi."
-STATES = {1: "active", 4: "checked", 8: "enabled", 11: "focusable", 12: "focused", 16: "modal",
-          23: "selected", 25: "showing"}
+STATES = {1: "active", 4: "checked", 5: "collapsed", 8: "enabled", 10: "expanded", 11: "focusable",
+          12: "focused", 16: "modal", 23: "selected", 25: "showing"}
+LASTING = {"checked", "collapsed", "expanded", "selected"}
 
 
 class Node:
@@ -77,6 +78,13 @@ class Node:
     def parent(self):
         return Node(self.bus, *(self.get("Accessible", "Parent") or (self.owner, "/")))
 
+    def acts(self, action):
+        """What a screen reader does in place of mouse and keys."""
+        actions = until(f"actions of “{self.name}”",
+                        lambda: self.call(PREFIX + "Action", "GetActions"))[0]
+        self.call(PREFIX + "Action", "DoAction", "(i)",
+                  [name for name, *_ in actions].index(action))
+
     def shown(self):
         """This and what it shows, from the outside in."""
         yield self
@@ -100,6 +108,13 @@ class Node:
         except NotSeen as error:
             raise NotSeen(f"{error}; shown are:\n{self.picture()}") from None
         return found[0]
+
+    def as_it_is(self):
+        """All that stays as it is when the program ends and starts again: notices and the history
+        do not."""
+        return [(node.role, node.name, node.description, node.text, node.rect,
+                 sorted(node.states & LASTING)) for node in self.shown()
+                if node.role != "alert message" and node.name.split(" ")[0] not in ("Undo", "Redo")]
 
     def picture(self, indent=0):
         states = ",".join(sorted(self.states - {"enabled", "focusable", "showing"}))

@@ -58,6 +58,15 @@ class Program:
             node for node in self.windows()
             if title in node.name and "active" in node.states])[0]
 
+    def window(self, title):
+        """The window whose title begins so, which need not have the keyboard."""
+        return until(lambda: f"a window “{title}” of {[node.name for node in self.windows()]}",
+                     lambda: [node for node in self.windows() if node.name.startswith(title)])[0]
+
+    def misses_window(self, title):
+        until(f"that the window “{title}” goes", lambda: not any(
+            node.name.startswith(title) for node in self.windows()))
+
     def sees(self, role=None, name=None):
         return self.everything.find(role, name)
 

@@ -71,6 +71,81 @@ class User:
         for title in titles:
             self.clicks(self.tintra.sees_menu_item(title))
 
+    # Windows
+
+    def of_window(self, title, *words):
+        self.xdotool("search", "--all", "--onlyvisible", "--pid", self.tintra.process.pid, "--name",
+                     f"^{title}", *words)
+
+    def goes_to(self, title):
+        """As with the desktop's list of windows."""
+        until(f"a window “{title}” to go to", lambda: any(
+            name.startswith(title) for name in self.tintra.titles()))
+        self.of_window(title, "windowactivate")
+        return self.tintra.sees_active(title)
+
+    def puts(self, title, x, y, width, height):
+        """Moves a window there and gives it that size."""
+        window = self.goes_to(title)
+        self.of_window(title, "windowsize", width, height, "windowmove", x, y)
+        until(f"{title} in its place", lambda: window.rect[2:] == (width, height)
+              and abs(window.rect[0] - x) < 40 and abs(window.rect[1] - y) < 40)
+        return window
+
+    def opens(self, title, key):
+        """A window that has a menu row, a key and a button, by each; it stays open."""
+        front = next(node.name for node in self.tintra.windows() if "active" in node.states)
+        front = front.split("*")[0]
+
+        def by_menu():
+            self.keys("F10", "Left", "Left")
+            self.chooses(title)
+        for way in by_menu, lambda: self.keys(key), lambda: self.presses(title):
+            if way is not by_menu:
+                self.keys("ctrl+w")
+                self.tintra.misses_window(f"{title} — Tintra")
+                self.tintra.sees_active(front)
+            way()
+            self.tintra.sees_active(f"{title} — Tintra")
+
+    def starts_again(self, *answers):
+        """Quits, with an answer to every question, and starts again. Every window is as it was."""
+        def windows():
+            return {node.name: node.as_it_is() for node in self.tintra.windows()}
+        before = windows()
+        self.keys("ctrl+q")
+        for answer in answers:
+            self.tintra.sees_active("Save changes")
+            self.presses(answer)
+        self.tintra.ends()
+        self.starts()
+        after = windows()
+        until(lambda: f"{before.keys()}; there are {self.tintra.titles()}",
+              lambda: before.keys() == windows().keys())
+        for title, was in before.items():
+            until(lambda: f"{title} as it was; changed is " + difference(was, windows()[title]),
+                  lambda: windows()[title] == was)
+
+    def carries(self, start, end, held=None):
+        """Drag and drop: lets go once the thing is seen to be in the air."""
+        (x, y), (to_x, to_y) = self.place(start), self.place(end)
+        def in_the_air():
+            return len(self.desktop.output("xdotool", "search", "--onlyvisible", "--pid",
+                                           str(self.tintra.process.pid), check=False).split())
+        at_rest = in_the_air()
+        self.xdotool("mousemove", x, y)
+        if held:
+            self.xdotool("keydown", held)
+        self.xdotool("mousedown", 1)
+        until("a thing in the air", lambda: (
+            self.xdotool("mousemove", x + 8, y + 8, "mousemove", x + 16, y + 16),
+            in_the_air() > at_rest)[1])
+        self.xdotool("mousemove", to_x - 4, to_y, "sleep", 0.05, "mousemove", to_x, to_y)
+        self.lets_go()
+        if held:
+            self.xdotool("keyup", held)
+        until("nothing in the air", lambda: in_the_air() <= at_rest)
+
     def lifts(self, start, end, steps=12):
         """Presses the button and moves there, without letting go."""
         (x, y), (to_x, to_y) = self.place(start), self.place(end)
@@ -129,8 +204,7 @@ class User:
 
     def colours(self):
         """Of the palette, as they are written down."""
-        return ["#" + "".join(f"{round(swatch[part] * 255):02x}" for part in "rgb")
-                for swatch in self.record("TintraWorkspace").get("customPalette", [])]
+        return [code(swatch) for swatch in self.record("TintraWorkspace").get("customPalette", [])]
 
     def finds_colours(self, colours):
         until(lambda: f"{colours}; written down are {self.colours()}", lambda: self.colours() == colours)
@@ -140,6 +214,16 @@ class User:
         read = json.loads(self.desktop.output(str(self.desktop.binaries / "tintra"), "read",
                                               "--json", str(file)))
         return [(swatch["hex"].lower(), swatch["name"]) for swatch in read[0]["swatches"]]
+
+
+def code(colour):
+    """Of a colour as it is written down."""
+    return "#" + "".join(f"{round(colour[part] * 255):02x}" for part in "rgb")
+
+
+def difference(was, now):
+    return "\n".join(["", *(f"- {line}" for line in was if line not in now),
+                      *(f"+ {line}" for line in now if line not in was)])
 
 
 def agree(found, wanted, what):
