@@ -1,3 +1,4 @@
+#include "benchmarks/OffscreenApplication.h"
 #include "tests/ui/Desk.h"
 #include "ui/contrast/ContrastWindow.h"
 
@@ -6,18 +7,9 @@
 namespace tintra {
 namespace {
 
-QApplication& application() {
-    static int count = 1;
-    static char name[] = "bench_ui_contrast";
-    static char* names[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication app(count, names);
-    return app;
-}
-
 /// A step of a drag of the text's lightness, with a full board, until it is painted.
 void dragLightness(benchmark::State& run) {
-    application();
+    bench::offscreenApplication();
     test::Desk desk;
     auto& board = desk.models.contrast();
     for (std::size_t i = 0; i < ContrastBoard::kCapacity; ++i)

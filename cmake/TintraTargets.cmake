@@ -41,6 +41,48 @@ function(tintra_library name)
     target_link_libraries(tintra_${name} PUBLIC tintra_options ${ARGN})
 endfunction()
 
+# tintra_precompile(TARGET HEADER...): what nearly every source about windows reads, parsed once for a
+# target: the toolkit's headers and the standard library's, never the project's own, which change.
+# A source still includes what it uses: a build with a compiler cache goes without, because the cache
+# keeps more than this does and cannot share it, and so does the debug preset, for the linter.
+function(tintra_precompile target)
+    if(CMAKE_CXX_COMPILER_LAUNCHER)
+        return()
+    endif()
+    target_precompile_headers(
+        ${target}
+        PRIVATE
+        <QAccessible>
+        <QApplication>
+        <QBoxLayout>
+        <QDropEvent>
+        <QKeyEvent>
+        <QLineEdit>
+        <QMenu>
+        <QPainter>
+        <QPointer>
+        <QProperty>
+        <QTimer>
+        <QWidget>
+        <algorithm>
+        <array>
+        <cmath>
+        <filesystem>
+        <functional>
+        <map>
+        <memory>
+        <optional>
+        <ranges>
+        <span>
+        <string>
+        <string_view>
+        <unordered_map>
+        <utility>
+        <variant>
+        <vector>
+        ${ARGN})
+endfunction()
+
 # tintra_module(NAME LIBRARY...): a library that programs load while they run, from the folder NAME.
 function(tintra_module name)
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)

@@ -144,6 +144,8 @@ const BenchKey kBenchKeys[] = {
          return child<WellEditor>(on.window)->isAncestorOf(QApplication::focusWidget());
      },
      mixFirst},
+    {"Return, Esc", [](OnBench& on) { return on.canvas.hasFocus() && on.isWellActive(); },
+     mixFirst},
     {"Ctrl+Return",
      [](OnBench& on) {
          return on.active() == 4 && on.bench.benchWells().empty() &&
@@ -190,7 +192,9 @@ class BenchKeys : public testing::TestWithParam<BenchKey> {};
 TEST_P(BenchKeys, DoWhatTheySay) {
     OnBench on;
     GetParam().before(on);
-    press(GetParam().keys);
+    for (const auto& key :
+         QString::fromLatin1(GetParam().keys).split(QStringLiteral(", "), Qt::SkipEmptyParts))
+        press(qPrintable(key));
     EXPECT_TRUE(GetParam().did(on));
 }
 

@@ -195,6 +195,21 @@ TEST(Keys, GoBackToTheSwatchesWhenTheEditorCloses) {
     EXPECT_EQ(QApplication::focusWidget(), canvas);
 }
 
+// A display that has not heard yet of a menu's end goes on sending it the keys.
+TEST(Keys, OfAMenuThatHasJustClosedAreNotLost) {
+    Shown shown;
+    auto* canvas = QApplication::focusWidget();
+    press("F10");
+    auto* menu = QApplication::activePopupWidget();
+    ASSERT_TRUE(menu);
+    QTest::keyClick(menu, Qt::Key_Escape);
+    ASSERT_NE(QApplication::focusWidget(), canvas) << "it is the bar's turn";
+    QTest::keyClick(menu, Qt::Key_Escape);
+    EXPECT_EQ(QApplication::focusWidget(), canvas);
+    QTest::keyClick(menu, Qt::Key_Right);
+    EXPECT_EQ(shown.selected(), 2U);
+}
+
 TEST(Keys, SpaceShowsTheColourAloneWhileHeld) {
     Shown shown;
     auto* canvas = QApplication::focusWidget();

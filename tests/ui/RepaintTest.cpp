@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QPaintEvent>
+#include <algorithm>
 #include <map>
 
 namespace tintra::test {
@@ -34,7 +35,22 @@ private:
     std::map<const QObject*, QRegion> painted_;
 };
 
-TEST(Repainting, OnlyWhatChangesIsPainted) {
+/// Where two pictures of one size are not the same, line by line.
+QRegion difference(const QImage& one, const QImage& other) {
+    QRegion region;
+    for (int y = 0; y < one.height(); ++y) {
+        int first = one.width(), last = -1;
+        for (int x = 0; x < one.width(); ++x)
+            if (one.pixel(x, y) != other.pixel(x, y)) {
+                first = std::min(first, x);
+                last = x;
+            }
+        if (last >= 0) region += QRect(QPoint(first, y), QPoint(last, y));
+    }
+    return region;
+}
+
+TEST(Repainting, AllThatChangesIsPaintedAndNothingElse) {
     Desk desk;
     auto& state = desk.stateWith(256);
     PaletteWindow window(desk.ui, state);
@@ -68,6 +84,7 @@ TEST(Repainting, OnlyWhatChangesIsPainted) {
     PaintWatch watch(window);
     for (const auto& change : changes) {
         SCOPED_TRACE(change.is);
+        const auto before = canvas.grab().toImage();
         watch.forget();
         change.make();
         QCoreApplication::processEvents();
@@ -79,6 +96,8 @@ TEST(Repainting, OnlyWhatChangesIsPainted) {
         }
         EXPECT_TRUE((watch.of(canvas) - allowed).isEmpty());
         EXPECT_TRUE(watch.of(*child<PaletteToolBar>(window)).isEmpty());
+        const auto painted = watch.of(canvas);
+        EXPECT_TRUE((difference(before, canvas.grab().toImage()) - painted).isEmpty());
     }
 }
 

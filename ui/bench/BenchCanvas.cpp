@@ -22,7 +22,8 @@ using Of = BenchSelection::Of;
 constexpr double kFlash = 0.12; ///< seconds
 constexpr qreal kLink = 8;      ///< height of the item of a line
 // While it is empty.
-constexpr int kEmptyWidth = 300, kHeadline = 28, kHintLines = 2, kActionGap = 12, kAction = 36;
+constexpr int kEmptyWidth = 304, kHeadline = 28, kHintLines = 2, kHintInset = 14, kActionGap = 16,
+              kAction = 36;
 
 ColumnPair pairOf(const BenchContent& content, const BenchWell& well) {
     const auto a = content.indexOfColumn(well.parentA).value_or(0);
@@ -210,6 +211,7 @@ std::vector<CanvasItem> BenchCanvas::emptyItems(QSizeF size) const {
     add(headline, head, "Lay colours side by side");
     add(hint, words,
         "Drop swatches here, or send one from a palette. Two neighbours mix as pigments.");
+    items.back().rect.adjust(kHintInset, 0, -kHintInset, 0);
     y += kActionGap;
     add(beginning, action, "Type or paste values");
     items.back().role = QAccessible::Button;
@@ -312,7 +314,7 @@ void BenchCanvas::beginRename() {
     field_->kept = [this, id = of.id](const QString& name) {
         renameOnBench(ui_.models, id, toUtf8(name));
     };
-    connect(field_, &QObject::destroyed, this, [this] { update(); });
+    field_->ended = [this] { update(); };
     repaintItem(item);
 }
 

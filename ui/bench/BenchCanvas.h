@@ -95,6 +95,7 @@ private:
     void paintFigure(QPainter& painter, const CanvasItem& item) const;
     void paintMix(QPainter& painter, const CanvasItem& item, ItemState state) const;
     void paintWell(QPainter& painter, const CanvasItem& item, ItemState state) const;
+    void paintWords(QPainter& painter, const CanvasItem& item) const;
     bool hasButtons(const CanvasItem& item) const;
     std::optional<int> buttonAt(int item, QPointF place) const;
 

@@ -36,7 +36,7 @@ SwatchLook BenchCanvas::look(const CanvasItem& item) const {
     look.code = item.value;
     look.selected = item.selected;
     look.codeFlashes = flashing_ && flashing_->id == of.id;
-    look.hidesName = field_ && item.selected;
+    look.hidesName = field_ && !field_->isHidden() && item.selected;
     look.leftBehind = bench_.draggingBenchColumn.value() == of.id;
     // There is room for the digits only; what is copied has the mark.
     if (look.shape == SwatchShape::onSide && look.code.startsWith(u'#')) look.code.remove(0, 1);
@@ -188,9 +188,22 @@ void BenchCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemState
                        {state.hovered, pressedItem_ >= 0, state.focused});
         break;
     default:
-        painter.setFont(theme().font(item.kind == headline ? TextStyle::title : TextStyle::body));
-        painter.setPen(theme().color(item.kind == headline ? Token::ink : Token::ink2));
-        painter.drawText(item.rect, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, item.name);
+        paintWords(painter, item);
+    }
+}
+
+/// Of the empty Bench.
+void BenchCanvas::paintWords(QPainter& painter, const CanvasItem& item) const {
+    const bool isHead = item.kind == headline;
+    const auto style = isHead ? TextStyle::title : TextStyle::body;
+    const auto font = theme().font(style);
+    const auto line = theme().lineHeight(style);
+    painter.setFont(font);
+    painter.setPen(theme().color(isHead ? Token::ink : Token::ink2));
+    auto place = QRectF(item.rect.topLeft(), QSizeF(item.rect.width(), line));
+    for (const auto& words : TextLines().twoLines(font, item.name, place.width())) {
+        painter.drawText(place, Qt::AlignCenter, words);
+        place.translate(0, line);
     }
 }
 

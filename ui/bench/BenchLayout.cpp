@@ -8,7 +8,7 @@ namespace tintra {
 namespace {
 
 constexpr qreal kMargin = 12, kWide = 76, kNarrowest = 40;
-constexpr qreal kDisc = 112, kLeastDisc = 32, kAround = 8;
+constexpr qreal kDisc = 120, kLeastDisc = 32, kAround = 8;
 constexpr qreal kMix = 32, kSmallMix = 24;
 constexpr qreal kFigureTop = 64, kFigureHeight = 24, kFigureWidth = 44, kSmallFigureWidth = 36;
 constexpr qreal kLeastForFigures = 170; ///< height of the columns

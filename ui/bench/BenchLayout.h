@@ -22,7 +22,7 @@ struct BenchPlaces {
     std::vector<QRectF> figures;
     /// Where a well can be made, a boundary each; empty where the pair has one.
     std::vector<QRectF> mixes;
-    std::vector<QRectF> wells; ///< discs, in step with the pairs
+    std::vector<QRectF> wells; ///< discs with their rims, in step with the pairs
     qreal width = 0;           ///< of the whole, margins included
 
     qreal columnWidth() const { return columns.empty() ? 0 : columns.front().width(); }

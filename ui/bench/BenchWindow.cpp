@@ -9,8 +9,8 @@
 #include "ui/bench/WellEditor.h"
 #include "ui/frame/FactsLine.h"
 #include "ui/frame/ToolLine.h"
-#include "ui/palette/CanvasScroll.h"
 #include "ui/paste/PasteSheet.h"
+#include "ui/shared/CanvasScroll.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Text.h"
 
@@ -72,6 +72,7 @@ void BenchWindow::connectCanvas() {
     canvas_->reveal = [this](const QRect& what) { scroll_->reveal(what); };
     canvas_->typeOrPaste = [this] { showPasteSheet(); };
     canvas_->adjustMix = [this] { adjustMix(); };
+    editor_->left = [this] { canvas_->setFocus(Qt::OtherFocusReason); };
     canvas_->contextMenu = [this](QPoint at, bool onItem) {
         popUp(at, [this, onItem](QMenu& menu) { fillBenchMenu(menu, onItem, context()); });
     };
@@ -99,9 +100,10 @@ void BenchWindow::syncFacts() {
     auto words = colours == 0 ? worded("No colours") : worded("%n colour", "%n colours", colours);
     if (mixes > 0) words += worded(" · ") + worded("%n mix", "%n mixes", mixes);
     tools_->setWords(words);
-    auto facts = colours > 1 ? worded("Contrast between neighbours: WCAG 2.2 ratio") : QString();
+    QStringList facts;
+    if (colours > 1) facts << worded("Contrast between neighbours: WCAG 2.2 ratio");
     if (bench.isReorderingPaused())
-        facts += worded(". ") + worded("Reordering is paused while a well is on the Bench");
+        facts << worded("Reordering is paused while a well is on the Bench");
     facts_->setFacts(facts);
 }
 

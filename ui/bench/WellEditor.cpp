@@ -11,6 +11,7 @@
 #include "ui/shared/Theme.h"
 
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <algorithm>
@@ -189,6 +190,13 @@ void WellEditor::resizeEvent(QResizeEvent*) {
                                 .marginsAdded(StyleParts::kRingRoom));
         top += theme.scaled(kButton) + kButtonGap;
     }
+}
+
+void WellEditor::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape) return QWidget::keyPressEvent(event);
+    for (auto* row : rows_)
+        row->dropTyped();
+    if (left) left();
 }
 
 void WellEditor::paintEvent(QPaintEvent*) {

@@ -9,6 +9,7 @@
 #include <QString>
 #include <QWidget>
 #include <array>
+#include <functional>
 #include <optional>
 
 class QPushButton;
@@ -29,10 +30,13 @@ public:
     /// Shows the active well; nothing while a column is active.
     void sync();
     void focusRatio();
+    /// Is told that the user is done with it: Esc was pressed.
+    std::function<void()> left;
 
     QSize sizeHint() const override;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 

@@ -11,7 +11,7 @@
 #include "ui/contrast/SpecimenBar.h"
 #include "ui/contrast/SpecimenCanvas.h"
 #include "ui/contrast/VerdictCanvas.h"
-#include "ui/palette/CanvasScroll.h"
+#include "ui/shared/CanvasScroll.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 

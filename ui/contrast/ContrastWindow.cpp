@@ -97,7 +97,7 @@ void ContrastWindow::sync() {
     // An empty board has nothing to be sorted, graded or told of.
     target_->setVisible(!isEmpty);
     facts_->setVisible(!isEmpty);
-    facts_->setFacts(factsText());
+    facts_->setFacts({factsText()});
     tools_->sync();
 }
 

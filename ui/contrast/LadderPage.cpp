@@ -3,7 +3,7 @@
 #include "state/Models.h"
 #include "ui/contrast/FixedColour.h"
 #include "ui/contrast/LadderCanvas.h"
-#include "ui/palette/CanvasScroll.h"
+#include "ui/shared/CanvasScroll.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"

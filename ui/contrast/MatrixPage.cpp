@@ -2,7 +2,7 @@
 
 #include "state/Models.h"
 #include "ui/contrast/MatrixCanvas.h"
-#include "ui/palette/CanvasScroll.h"
+#include "ui/shared/CanvasScroll.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"

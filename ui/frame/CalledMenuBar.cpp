@@ -28,11 +28,25 @@ void CalledMenuBar::call() {
 }
 
 void CalledMenuBar::followMenus() {
-    for (const auto* action : actions())
+    for (const auto* action : actions()) {
+        auto* menu = action->menu();
+        if (!menu) continue;
+        menu->installEventFilter(this);
         // Later, when it is seen whether another menu follows.
-        if (auto* menu = action->menu())
-            connect(
-                menu, &QMenu::aboutToHide, this, [this] { leaveWhenDone(); }, Qt::QueuedConnection);
+        connect(
+            menu, &QMenu::aboutToHide, this, [this] { leaveWhenDone(); }, Qt::QueuedConnection);
+    }
+}
+
+bool CalledMenuBar::eventFilter(QObject* watched, QEvent* event) {
+    const auto* menu = qobject_cast<QMenu*>(watched);
+    if (event->type() != QEvent::KeyPress || !menu || menu->isVisible())
+        return QMenuBar::eventFilter(watched, event);
+    // Until the display knows that a menu has closed it sends it the keys, which are for the bar,
+    // or for what the bar has gone back to.
+    leaveWhenDone();
+    if (auto* keyboard = window()->focusWidget()) QCoreApplication::sendEvent(keyboard, event);
+    return true;
 }
 
 void CalledMenuBar::leaveWhenDone() {
@@ -41,7 +55,8 @@ void CalledMenuBar::leaveWhenDone() {
 
 void CalledMenuBar::leave() {
     setActiveAction(nullptr);
-    if (hasFocus() && before_) before_->setFocus(Qt::PopupFocusReason);
+    // The window itself may not have the keyboard back yet.
+    if (window()->focusWidget() == this && before_) before_->setFocus(Qt::PopupFocusReason);
     setVisible(isPinned_);
 }
 

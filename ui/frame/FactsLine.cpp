@@ -8,6 +8,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 namespace tintra {
 namespace {
@@ -28,12 +29,11 @@ FactsLine::FactsLine(Ui& ui, QProperty<Vision>* vision, QWidget* parent)
     layOut();
 }
 
-void FactsLine::setFacts(const QString& facts) {
+void FactsLine::setFacts(QStringList facts) {
     if (facts == facts_) return;
-    facts_ = facts;
-    setAccessibleDescription(facts);
-    setToolTip({});
-    update();
+    facts_ = std::move(facts);
+    setAccessibleDescription(facts_.join(worded(". ")));
+    layOut();
 }
 
 QSize FactsLine::sizeHint() const {
@@ -52,7 +52,22 @@ void FactsLine::layOut() {
     place(&choices_.format());
     place(choices_.vision());
     factsEnd_ = right;
+    cutFacts();
     update();
+}
+
+void FactsLine::cutFacts() {
+    const auto font = ui_.theme.font(TextStyle::body);
+    const auto room = factsEnd_ - kSide;
+    const auto whole = facts_.join(worded(". "));
+    auto left = facts_;
+    shown_ = whole;
+    while (left.size() > 1 && figuresWidth(font, shown_) > room) {
+        left.removeFirst();
+        shown_ = left.join(worded(". "));
+    }
+    shown_ = QFontMetrics(font).elidedText(shown_, Qt::ElideRight, room);
+    setToolTip(shown_ == whole ? QString() : whole);
 }
 
 void FactsLine::resizeEvent(QResizeEvent*) {
@@ -67,12 +82,10 @@ void FactsLine::paintEvent(QPaintEvent*) {
     if (choices_.vision())
         painter.fillRect(choices_.format().x() - kGroupGap / 2, (height() - kLine) / 2, 1, kLine,
                          theme.color(Token::line));
-    const auto font = theme.font(TextStyle::body);
-    painter.setFont(font);
+    painter.setFont(theme.font(TextStyle::body));
     painter.setPen(theme.color(Token::ink3));
-    const QRect room(kSide, 0, factsEnd_ - kSide, height());
-    drawFigures(painter, room, Qt::AlignVCenter | Qt::AlignLeft,
-                QFontMetrics(font).elidedText(facts_, Qt::ElideRight, room.width()));
+    drawFigures(painter, QRect(kSide, 0, factsEnd_ - kSide, height()),
+                Qt::AlignVCenter | Qt::AlignLeft, shown_);
 }
 
 } // namespace tintra

@@ -2,7 +2,7 @@
 
 #include "ui/frame/FootChoices.h"
 
-#include <QString>
+#include <QStringList>
 #include <QWidget>
 
 namespace tintra {
@@ -13,7 +13,9 @@ public:
     /// `vision` null for a window without.
     FactsLine(Ui& ui, QProperty<Vision>* vision, QWidget* parent);
 
-    void setFacts(const QString& facts);
+    /// Sentences, the last the one that is most needed: where there is no room for all, the first
+    /// ones go. The tooltip has them all then.
+    void setFacts(QStringList facts);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -24,10 +26,12 @@ protected:
 
 private:
     void layOut();
+    void cutFacts();
 
     Ui& ui_;
     FootChoices choices_;
-    QString facts_;
+    QStringList facts_;
+    QString shown_;    ///< as much of them as there is room for
     int factsEnd_ = 0; ///< px
     Subscriptions subscriptions_;
 };

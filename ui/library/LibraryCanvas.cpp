@@ -3,6 +3,7 @@
 #include "state/Models.h"
 #include "ui/library/LibraryItems.h"
 #include "ui/library/LibraryWords.h"
+#include "ui/shared/StyleParts.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
@@ -16,7 +17,7 @@
 namespace tintra {
 namespace {
 
-constexpr int kBar = 12, kStep = 52;
+constexpr int kBar = 12, kStep = 52, kIcon = 16;
 
 } // namespace
 
@@ -289,13 +290,27 @@ void LibraryCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemSta
     case noteAction:
         break;
     }
+    paintButton(painter, item, state);
+}
+
+void LibraryCanvas::paintButton(QPainter& painter, const CanvasItem& item, ItemState state) const {
     QStyleOptionButton button;
-    button.rect = item.rect.toRect().adjusted(-4, -4, 4, 4);
+    // A button's ring of focus stands round it.
+    button.rect = item.rect.toRect() + StyleParts::kRingRoom;
     button.text = item.name;
     button.state = QStyle::State_Enabled;
     if (state.hovered) button.state |= QStyle::State_MouseOver;
     if (state.focused) button.state |= QStyle::State_HasFocus;
-    const bool isFirst = item.kind == noteAction || partOf(item.index) == LibraryPanel::open;
+    bool isFirst = item.kind == action && partOf(item.index) == LibraryPanel::open;
+    if (item.kind == noteAction) {
+        const auto note = noteOf(model_, layout_.lines()[item.index]);
+        isFirst = note.isFirstStep();
+        button.iconSize = QSize(kIcon, kIcon);
+        if (!note.icon().empty())
+            button.icon =
+                theme().icon(note.icon(), kIcon, theme().color(isFirst ? Token::onsel : Token::ink),
+                             devicePixelRatioF());
+    }
     if (isFirst) button.features = QStyleOptionButton::DefaultButton;
     style()->drawControl(QStyle::CE_PushButton, &button, &painter, this);
 }

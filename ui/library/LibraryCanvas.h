@@ -79,6 +79,7 @@ private:
     std::size_t focusedLine() const;
     std::optional<std::size_t> lineWith(std::size_t find) const { return layout_.lineOf(find); }
     std::vector<LibraryButton> buttonsOf(const CanvasItem& item) const;
+    void paintButton(QPainter& painter, const CanvasItem& item, ItemState state) const;
     int buttonAt(int item, QPointF place) const;
     QString tip(QPoint at) const;
     void syncBar();

@@ -41,12 +41,15 @@ QString LibraryFoot::facts() const {
     const auto& content = *model_.listing().content;
     if (model_.listing().isSearch && !model_.listing().finds.empty())
         return worded("Press Enter to open · Alt+Enter opens in a new window");
-    const auto folders = std::ranges::count_if(content.groups, [](const auto& group) {
-        return group.kind == PaletteEntry::Group::location;
-    });
-    if (content.palettes.empty()) return {};
-    return worded("%n palette in ", "%n palettes in ",
-                  static_cast<qsizetype>(content.palettes.size())) +
+    std::size_t palettes = 0;
+    qsizetype folders = 0;
+    for (const auto& group : content.groups) {
+        if (group.kind != PaletteEntry::Group::location || !group.isOnline) continue;
+        palettes += group.count;
+        ++folders;
+    }
+    if (palettes == 0) return {};
+    return worded("%n palette in ", "%n palettes in ", static_cast<qsizetype>(palettes)) +
            worded("%n folder · read, never changed", "%n folders · read, never changed", folders);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <string_view>
 
 namespace tintra {
 
@@ -12,6 +13,11 @@ struct LibraryNote {
     enum class About { noFolders, noPalettes, offline, nothingFound };
     About about = About::noFolders;
     QString title, text, action; ///< no title for one line among others; no action for none
+
+    /// Of the button; empty for none.
+    std::string_view icon() const { return isFirstStep() ? "plus" : ""; }
+    /// The button is what everything begins with.
+    bool isFirstStep() const { return about == About::noFolders; }
 };
 
 /// The note that stands on a line.

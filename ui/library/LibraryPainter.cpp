@@ -17,6 +17,7 @@ namespace {
 
 constexpr int kIcon = 16, kTool = 20, kButton = 24, kTileButton = 28, kInner = 8;
 constexpr int kWordsAt = 20, kBadgeGap = 8, kPathGap = 12, kCaption = 50, kCaptionSide = 12;
+constexpr int kHeading = 14;
 constexpr int kSwatchRadius = 6;
 constexpr qsizetype kLongestTag = 24;
 
@@ -142,10 +143,15 @@ void LibraryPainter::header(QPainter& painter, const QRectF& in,
     const auto room = end - figuresWidth(theme.font(TextStyle::body), count) - kPathGap;
 
     auto x = left + kWordsAt;
+    auto font = theme.font(TextStyle::name);
+    font.setPixelSize(theme.scaled(kHeading));
+    const QFontMetricsF metrics(font);
     const auto title = titleOf(group);
-    const QFontMetricsF metrics(theme.font(TextStyle::name));
     const auto wide = std::min(metrics.horizontalAdvance(title) + 1, (room - x) * 0.6);
-    write(painter, TextStyle::name, Token::ink, QRectF(x, in.top(), wide, in.height()), title);
+    painter.setFont(font);
+    painter.setPen(theme.color(Token::ink));
+    painter.drawText(QRectF(x, in.top(), wide, in.height()), Qt::AlignLeft | Qt::AlignVCenter,
+                     metrics.elidedText(title, Qt::ElideRight, wide));
     x += wide;
     const auto badge = [&](const QString& text, BadgeFill fill) {
         x = paintBadge(painter, theme, text, x + kBadgeGap, middle, fill);

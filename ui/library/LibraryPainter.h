@@ -70,6 +70,7 @@ private:
     void instead(QPainter& painter, const QRectF& in, const LibraryPalette& palette) const;
     void matchedRing(QPainter& painter, const QRectF& around) const;
     void mosaic(QPainter& painter, const QRectF& in, std::size_t find) const;
+    void mosaicHairline(QPainter& painter, const QRectF& in) const;
     void value(QPainter& painter, const QRectF& in, std::size_t find) const;
 
     Ui& ui_;

@@ -18,7 +18,8 @@ namespace tintra {
 namespace {
 
 constexpr int kStripRadius = 6, kMatchGap = 2, kIcon = 16;
-constexpr int kNoteWidth = 340, kNoteGap = 6, kNoteButtonGap = 16, kButton = 28, kButtonPad = 13;
+constexpr int kNoteWidth = 340, kNoteGap = 6, kNoteButtonGap = 16, kButton = 28, kButtonPad = 13,
+              kIconGap = 6;
 
 /// The corners that a cell of a group has where the group has its own.
 std::array<int, 4> radiiOf(const QRectF& cell, const QRectF& in, std::array<int, 4> radii) {
@@ -122,12 +123,25 @@ void LibraryPainter::mosaic(QPainter& painter, const QRectF& in, std::size_t fin
         ui_.painter.fill(painter, cell.rect, swatches[cell.swatch].color, Vision::typical,
                          radiiOf(cell.rect, in, {kRound, kRound, 0, 0}));
     }
-    ui_.painter.hairline(painter, in, 0);
+    mosaicHairline(painter, in);
     if (place.isEmpty()) return;
     const auto ink = ui_.painter.foreground(swatches[matched].color, Vision::typical);
     painter.setPen(QPen(ink, metrics::kFocusWidth));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(place.adjusted(2, 2, -2, -2));
+}
+
+/// Round at the top, where the tile is.
+void LibraryPainter::mosaicHairline(QPainter& painter, const QRectF& in) const {
+    constexpr auto kRound = metrics::kGroupRadius;
+    painter.save();
+    painter.setClipRect(in.adjusted(0, 0, 0, -1), Qt::IntersectClip);
+    ui_.painter.hairline(painter, in.adjusted(0, 0, 0, 2 * kRound), kRound);
+    painter.restore();
+    painter.save();
+    painter.setClipRect(QRectF(in.left(), in.bottom() - 1, in.width(), 1), Qt::IntersectClip);
+    ui_.painter.hairline(painter, in, 0);
+    painter.restore();
 }
 
 QPixmap LibraryPainter::card(std::size_t find, qreal ratio) const {
@@ -181,7 +195,8 @@ void LibraryPainter::note(QPainter& painter, const QRectF& in, const LibraryNote
 QRectF LibraryPainter::noteButton(const QRectF& in, const LibraryNote& note, qreal left) const {
     const auto& theme = ui_.theme;
     const QFontMetricsF metrics(theme.font(TextStyle::control));
-    const auto wide = metrics.horizontalAdvance(note.action) + 2 * kButtonPad;
+    const auto icon = note.icon().empty() ? 0 : kIcon + kIconGap;
+    const auto wide = metrics.horizontalAdvance(note.action) + 2 * kButtonPad + icon;
     const qreal high = theme.scaled(kButton);
     if (note.title.isEmpty())
         return {in.right() - left - wide, in.center().y() - high / 2, wide, high};

@@ -41,7 +41,8 @@ LibraryTools::LibraryTools(Ui& ui, LibraryModel& model, const ContextOf& context
 
 void LibraryTools::makeField() {
     field_->setAccessibleName(worded("Search the Library"));
-    field_->setTextMargins(2, 0, 2, 0);
+    // Nearer to what stands before the text than fields have it.
+    field_->setTextMargins(-4, 0, 2, 0);
     field_->installEventFilter(this);
     mark_ = field_->addAction(QIcon(), QLineEdit::LeadingPosition);
     chip_ = field_->addAction(QIcon(), QLineEdit::LeadingPosition);
@@ -246,14 +247,17 @@ void LibraryTools::paintSecondLine(QPainter& painter) const {
     const auto font = theme.font(TextStyle::body);
     painter.setFont(font);
     painter.setPen(theme.color(Token::ink2));
+    const auto said = shown(explanation(match));
+    const QFontMetricsF metrics(font);
+    const QRectF room(x, line.top(), line.right() - x, line.height());
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
+                     metrics.elidedText(said, Qt::ElideRight, room.width()));
     const auto count = static_cast<qsizetype>(model_.listing().finds.size());
     const auto holds = worded("%n palette holds it", "%n palettes hold it", count);
-    const auto end = line.right() - figuresWidth(font, holds);
-    drawFigures(painter, line, Qt::AlignRight | Qt::AlignVCenter, holds);
-    const QRectF room(x, line.top(), end - x - 2 * kGap, line.height());
-    painter.drawText(
-        room, Qt::AlignLeft | Qt::AlignVCenter,
-        QFontMetricsF(font).elidedText(shown(explanation(match)), Qt::ElideRight, room.width()));
+    // That none does is said beneath, and groups have their own counts.
+    const auto free = room.width() - metrics.horizontalAdvance(said) - 2 * kGap;
+    if (count > 0 && figuresWidth(font, holds) <= free)
+        drawFigures(painter, room, Qt::AlignRight | Qt::AlignVCenter, holds);
 }
 
 void LibraryTools::paintEvent(QPaintEvent*) {

@@ -3,11 +3,11 @@
 #include "state/Models.h"
 #include "ui/editor/EditorPanel.h"
 #include "ui/palette/BandsCanvas.h"
-#include "ui/palette/CanvasScroll.h"
 #include "ui/palette/EmptyState.h"
 #include "ui/palette/PaneDivider.h"
 #include "ui/picture/PicturePane.h"
 #include "ui/picture/PictureSplit.h"
+#include "ui/shared/CanvasScroll.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 

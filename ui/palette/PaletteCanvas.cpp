@@ -5,6 +5,7 @@
 #include "platform/Services.h"
 #include "state/Models.h"
 #include "ui/shared/Controls.h"
+#include "ui/shared/PlacedField.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
@@ -191,7 +192,7 @@ SwatchLook PaletteCanvas::look(std::size_t at) const {
     look.code = item.value;
     look.selected = item.selected;
     look.codeFlashes = flashing_ == at;
-    look.hidesName = field_ && renamed_ == at;
+    look.hidesName = field_ && !field_->isHidden() && renamed_ == at;
     look.leftBehind = state_.draggingSwatch.value() == at;
     // There is room for the digits only; what is copied has the mark.
     if (look.shape == SwatchShape::onSide && look.code.startsWith(u'#')) look.code.remove(0, 1);

@@ -8,7 +8,6 @@
 #include "ui/shared/ColourMime.h"
 #include "ui/shared/Subscriptions.h"
 
-#include <QLineEdit>
 #include <QPointer>
 #include <array>
 #include <functional>
@@ -19,6 +18,8 @@
 #include <vector>
 
 namespace tintra {
+
+class PlacedField;
 
 /// The swatches of a palette window: columns, tiles or rows. Words are renamed where they stand,
 /// colours are dragged from here and dropped here.
@@ -54,6 +55,7 @@ protected:
     void focusMoved(int item) override;
     void hoverMoved(int item, QPointF place) override;
     int neighbour(int from, Qt::Key key) const override;
+    int overhang() const override { return 8; }
 
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -63,7 +65,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dragLeaveEvent(QDragLeaveEvent* event) override;
@@ -90,7 +91,6 @@ private:
     void press(std::size_t swatch, int button);
     void clickWords(std::size_t swatch, QPointF place);
     QRect fieldPlace(std::size_t at) const;
-    void endRename(bool keep);
     void startDrag(std::size_t at);
     std::size_t insertionAt(QPointF place) const;
     QRectF insertionBar() const;
@@ -114,7 +114,7 @@ private:
     std::unique_ptr<DelayedTask> scrolling_; ///< while the drag rests near an edge
     std::optional<std::size_t> flashing_;    ///< whose code was just copied
     std::unique_ptr<DelayedTask> flash_;
-    QPointer<QLineEdit> field_;
+    QPointer<PlacedField> field_;
     std::size_t renamed_ = 0;
     mutable SwatchPlaces stand_; ///< as the items were laid out last
     Subscriptions subscriptions_;

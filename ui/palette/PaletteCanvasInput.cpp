@@ -2,13 +2,13 @@
 
 #include "state/Models.h"
 #include "ui/palette/PaletteCanvas.h"
+#include "ui/shared/PlacedField.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMouseEvent>
 
 namespace tintra {
@@ -64,7 +64,7 @@ void PaletteCanvas::press(std::size_t at, int button) {
 
 void PaletteCanvas::mousePressEvent(QMouseEvent* event) {
     const auto item = itemAt(event->position());
-    if (field_) endRename(true);
+    if (field_) field_->end(true);
     if (item < 0 || event->button() != Qt::LeftButton) {
         if (item >= 0) setFocused(item);
         return;
@@ -125,7 +125,7 @@ void PaletteCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
         mousePressEvent(event);
         return;
     }
-    if (field_) endRename(false);
+    if (field_) field_->end(false);
     state_.editSwatch(items()[static_cast<std::size_t>(item)].index);
 }
 
@@ -166,24 +166,22 @@ void PaletteCanvas::focusOutEvent(QFocusEvent* event) {
 }
 
 void PaletteCanvas::beginRename(std::size_t at) {
-    if (field_ && renamed_ == at) return;
-    if (field_) endRename(true);
+    if (field_) field_->end(true);
     if (find(swatch, at) < 0) relayout();
     if (find(swatch, at) < 0) return;
-    const auto& given = state_.swatches()[at].name;
+    const auto& held = state_.swatches()[at];
     renamed_ = at;
-    field_ = new QLineEdit(this);
+    field_ = new PlacedField(held.name ? fromUtf8(*held.name) : QString(), fieldPlace(at), this);
     field_->setAccessibleName(worded("Name of the swatch"));
     field_->setFont(theme().font(TextStyle::name));
-    field_->setGeometry(fieldPlace(at));
-    field_->setText(given ? fromUtf8(*given) : QString());
     field_->setPlaceholderText(items()[at].name);
-    field_->setTextMargins(6, 0, 6, 0);
-    field_->selectAll();
-    field_->installEventFilter(this);
-    connect(field_, &QLineEdit::editingFinished, this, [this] { endRename(true); });
-    field_->show();
-    field_->setFocus();
+    field_->kept = [this, id = held.id](const QString& name) {
+        if (const auto now = state_.indexOf(id)) state_.renameSwatch(*now, toUtf8(name));
+    };
+    field_->ended = [this] {
+        state_.renamingSwatch = std::nullopt;
+        relayout();
+    };
     repaintItem(find(swatch, at));
 }
 
@@ -203,39 +201,6 @@ QRect PaletteCanvas::fieldPlace(std::size_t at) const {
     const auto middle =
         stand_.shape == SwatchShape::onSide ? in.bottom() - kAboveFoot : words.center().y();
     return QRectF(left, middle - high / 2.0, wide, high).toRect();
-}
-
-bool PaletteCanvas::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != field_ || event->type() != QEvent::KeyPress)
-        return Canvas::eventFilter(watched, event);
-    // The keys that end it must not go on to the canvas, where they mean something else.
-    switch (static_cast<QKeyEvent*>(event)->key()) {
-    case Qt::Key_Escape:
-        endRename(false);
-        return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        endRename(true);
-        return true;
-    default:
-        return false;
-    }
-}
-
-void PaletteCanvas::endRename(bool keep) {
-    if (!field_) return;
-    auto* field = field_.data();
-    field_ = nullptr;
-    const auto name = toUtf8(field->text());
-    const bool hadKeyboard = field->hasFocus();
-    field->disconnect(this);
-    field->hide();
-    // The field may be in the middle of the event that ends it.
-    field->deleteLater();
-    state_.renamingSwatch = std::nullopt;
-    if (keep && renamed_ < state_.swatches().size()) state_.renameSwatch(renamed_, name);
-    if (hadKeyboard) setFocus(Qt::OtherFocusReason);
-    relayout();
 }
 
 } // namespace tintra

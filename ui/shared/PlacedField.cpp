@@ -20,6 +20,7 @@ void PlacedField::end(bool keep) {
     // It may be in the middle of the event that ends it.
     deleteLater();
     if (keep && kept) kept(text());
+    if (ended) ended();
     if (hadKeyboard) parentWidget()->setFocus(Qt::OtherFocusReason);
 }
 

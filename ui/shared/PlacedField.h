@@ -13,6 +13,8 @@ public:
 
     /// Is told what is to be kept, once; not told when nothing is.
     std::function<void(const QString&)> kept;
+    /// Is told after that, once, that the words are to be seen again.
+    std::function<void()> ended;
 
     void end(bool keep);
 

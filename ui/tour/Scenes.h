@@ -24,6 +24,8 @@ std::span<const Scene> sheetScenes();
 std::span<const Scene> dialogueScenes();
 std::span<const Scene> settingsScenes();
 std::span<const Scene> benchScenes();
+std::span<const Scene> contrastScenes();
+std::span<const Scene> libraryScenes();
 
 inline constexpr std::array kAll{Look::light, Look::dark, Look::contrastLight, Look::contrastDark};
 inline constexpr std::span kLight(kAll.data(), 1), kBoth(kAll.data(), 2);

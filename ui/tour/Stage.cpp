@@ -14,10 +14,36 @@
 #include <QStyleFactory>
 #include <QTimer>
 #include <cstdint>
+#include <deque>
 #include <stdexcept>
 #include <utility>
 
 namespace tintra::tour {
+
+/// Work in the order in which it was given, between two events, unless it is held.
+class OnMainLoop final : public Background {
+public:
+    void run(std::function<void()> work) override {
+        if (holds_)
+            held_.push_back(std::move(work));
+        else
+            QTimer::singleShot(0, &while_, std::move(work));
+    }
+    void hold() { holds_ = true; }
+    void doHeld(Stage::Held which) {
+        if (held_.empty()) throw std::logic_error("a scene waits for work that nobody asked for");
+        const auto at = which == Stage::Held::first ? held_.begin() : held_.end() - 1;
+        const auto work = std::move(*at);
+        held_.erase(at);
+        work();
+    }
+
+private:
+    QObject while_;
+    bool holds_ = false;
+    std::deque<std::function<void()>> held_;
+};
+
 namespace {
 
 /// The same values in every run (a multiplicative congruential generator, Knuth's MMIX multiplier;
@@ -34,17 +60,6 @@ private:
     std::uint64_t state_ = 6;
 };
 
-/// Work in the order in which it was given, between two events.
-class OnMainLoop final : public Background {
-public:
-    void run(std::function<void()> work) override {
-        QTimer::singleShot(0, &while_, std::move(work));
-    }
-
-private:
-    QObject while_;
-};
-
 struct FixedSettings final : DesktopSettings {
     explicit FixedSettings(bool contrast) {
         prefersHighContrast = contrast;
@@ -52,9 +67,9 @@ struct FixedSettings final : DesktopSettings {
     }
 };
 
-Surroundings surroundings(Look look) {
+Surroundings surroundings(Look look, std::unique_ptr<Background> background) {
     const bool contrast = look == Look::contrastLight || look == Look::contrastDark;
-    return {std::make_unique<FixedChance>(), std::make_unique<OnMainLoop>(),
+    return {std::make_unique<FixedChance>(), std::move(background),
             std::make_unique<FixedSettings>(contrast)};
 }
 
@@ -65,7 +80,9 @@ Stage::Stage(Look look) {
     for (const auto* variable :
          {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
         qputenv(variable, own);
-    app_ = std::make_unique<Application>(surroundings(look));
+    auto background = std::make_unique<OnMainLoop>();
+    background_ = background.get();
+    app_ = std::make_unique<Application>(surroundings(look, std::move(background)));
     app_->start({});
     const bool dark = look == Look::dark || look == Look::contrastDark;
     preferences().appearance = dark ? Appearance::dark : Appearance::light;
@@ -117,6 +134,15 @@ void Stage::settle(int milliseconds) {
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
+}
+
+void Stage::holdBackground() {
+    background_->hold();
+}
+
+void Stage::doHeld(Held which) {
+    background_->doHeld(which);
+    settle();
 }
 
 void Stage::mouse(QWidget& window, QPoint at, QEvent::Type type, Qt::MouseButton button) {

@@ -17,6 +17,8 @@
 
 namespace tintra::tour {
 
+class OnMainLoop;
+
 /// How the interface looks while pictures are taken.
 enum class Look { light, dark, contrastLight, contrastDark };
 
@@ -50,6 +52,11 @@ public:
     void perform(ActionId action);
     /// Lets everything happen that is due, and what is due within some milliseconds.
     void settle(int milliseconds = 0);
+    /// From now on what is asked of the background waits.
+    void holdBackground();
+    /// Does what has waited longest, or what came last.
+    enum class Held { first, last };
+    void doHeld(Held which);
 
     // What the user's hands do, at a place of a window.
     void point(QWidget& window, QPoint at);
@@ -65,6 +72,7 @@ private:
     void mouse(QWidget& window, QPoint at, QEvent::Type type, Qt::MouseButton button);
 
     QTemporaryDir folder_;
+    OnMainLoop* background_; ///< the application's
     std::unique_ptr<Application> app_;
 };
 

@@ -27,8 +27,9 @@ constexpr std::array kLooks{
 
 std::vector<Scene> allScenes() {
     std::vector<Scene> all;
-    for (const auto group : {paletteScenes(), editorScenes(), pictureScenes(), menuScenes(),
-                             sheetScenes(), dialogueScenes(), settingsScenes(), benchScenes()})
+    for (const auto group :
+         {paletteScenes(), editorScenes(), pictureScenes(), menuScenes(), sheetScenes(),
+          dialogueScenes(), settingsScenes(), benchScenes(), contrastScenes(), libraryScenes()})
         all.insert(all.end(), group.begin(), group.end());
     return all;
 }

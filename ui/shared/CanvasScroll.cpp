@@ -1,4 +1,4 @@
-#include "ui/palette/CanvasScroll.h"
+#include "ui/shared/CanvasScroll.h"
 
 #include "ui/shared/Canvas.h"
 
