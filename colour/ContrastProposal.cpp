@@ -22,18 +22,25 @@ std::optional<ReachProposal> moved(Role role, const WashColor& text, const WashC
 
 std::string messageFor(const ReachReport& report) {
     std::string message;
-    if (!report.text) message = "No lightness of the text reaches it on this ground.";
+    if (!report.text) message = noReachText(Role::text);
     if (report.ground) return message;
     if (!message.empty()) message += ' ';
-    return message + "No lightness of the ground reaches it under this text.";
+    return message + std::string(noReachText(Role::ground));
 }
 
 } // namespace
 
+std::string_view noReachText(Role role) {
+    return role == Role::text ? "No lightness of the text reaches it on this ground."
+                              : "No lightness of the ground reaches it under this text.";
+}
+
 ReachReport reachReport(const WashColor& text, const WashColor& ground, Target target,
                         LargeText large) {
-    ReachReport report{target, need(target, large), std::nullopt, std::nullopt, ""};
-    if (reaches(wcagRatio(text, ground), report.need)) {
+    const auto ratio = need(target, large);
+    ReachReport report{target,       ratio,        reaches(wcagRatio(text, ground), ratio),
+                       std::nullopt, std::nullopt, ""};
+    if (report.passes) {
         report.message = "This pair already reaches it.";
         return report;
     }

@@ -1,6 +1,7 @@
 #include "ui/contrast/ContrastBody.h"
 
 #include "state/Models.h"
+#include "ui/contrast/ContrastDrops.h"
 #include "ui/contrast/EntryList.h"
 #include "ui/contrast/LadderCanvas.h"
 #include "ui/contrast/LadderPage.h"
@@ -12,9 +13,11 @@
 #include "ui/contrast/SpecimenCanvas.h"
 #include "ui/contrast/VerdictCanvas.h"
 #include "ui/palette/CanvasScroll.h"
+#include "ui/shared/DropRing.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
+#include <QDropEvent>
 #include <QMenu>
 #include <QPainter>
 #include <algorithm>
@@ -33,7 +36,8 @@ ContrastBody::ContrastBody(Ui& ui, QWidget* parent)
       list_(new EntryList(ui, nullptr)), halves_(new PairHalves(ui, this)),
       specimen_(new SpecimenCanvas(ui, this)), bar_(new SpecimenBar(ui, this)),
       result_(new ResultPanel(ui, this)), matrix_(new MatrixPage(ui, this)),
-      ladder_(new LadderPage(ui, this)) {
+      ladder_(new LadderPage(ui, this)), ring_(new DropRing(ui.theme, this)) {
+    setAcceptDrops(true);
     listScroll_->hold(*list_);
     connectParts();
     const auto again = [this] { sync(); };
@@ -53,7 +57,7 @@ void ContrastBody::connectParts() {
     list_->reveal = [this](const QRect& what) { listScroll_->reveal(what); };
     list_->fillMenu = menu;
     list_->addColour = [this] {
-        if (addColour) addColour();
+        if (addColour) addColour(std::nullopt);
     };
     matrix_->matrix().fillMenu = menu;
     ladder_->ladder().fillMenu = menu;
@@ -61,8 +65,11 @@ void ContrastBody::connectParts() {
 }
 
 void ContrastBody::chooseFor(ContrastBoard::Role role, QPoint at) {
+    const auto add = [this, role] {
+        if (addColour) addColour(role);
+    };
     if (board_.entries().empty()) {
-        if (addColour) addColour();
+        add();
         return;
     }
     auto* menu = new QMenu(this);
@@ -71,9 +78,7 @@ void ContrastBody::chooseFor(ContrastBoard::Role role, QPoint at) {
         menu->addAction(oneLine(board_.name(held), 60), menu,
                         [this, role, id = held.id] { board_.setRole(role, id); });
     menu->addSeparator();
-    menu->addAction(worded("Add a colour"), menu, [this] {
-        if (addColour) addColour();
-    });
+    menu->addAction(worded("Add a colour"), menu, add);
     menu->popup(at);
 }
 
@@ -112,7 +117,7 @@ void ContrastBody::focusEntry(std::size_t at) {
 QString ContrastBody::figureText() const {
     if (matrix_->isVisibleTo(this)) return matrix_->matrix().figureText();
     if (ladder_->isVisibleTo(this)) return ladder_->ladder().figureText();
-    return result_->verdict().figureText();
+    return result_->isVisibleTo(this) ? result_->verdict().figureText() : QString();
 }
 
 std::vector<QWidget*> ContrastBody::regions() const {
@@ -141,6 +146,7 @@ void ContrastBody::sync() {
 }
 
 void ContrastBody::layOut() {
+    ring_->setGeometry(rect());
     matrix_->setGeometry(rect());
     ladder_->setGeometry(rect());
     if (board_.entries().empty())
@@ -152,7 +158,7 @@ void ContrastBody::layOut() {
 void ContrastBody::layOutPair() {
     const bool compact = width() < ui_.theme.scaled(kCompactBelow);
     const auto list = ui_.theme.scaled(compact ? EntryList::kCompactWidth : EntryList::kWidth);
-    listScroll_->setGeometry(0, 0, list, height());
+    listScroll_->setGeometry(0, 0, list - 1, height()); // and a line
     const auto left = list + kGap, wide = width() - left - kGap;
     const auto result = result_->sizeHint().height(), bar = bar_->sizeHint().height();
     const auto resultTop = height() - kGap - result;
@@ -165,6 +171,36 @@ void ContrastBody::layOutPair() {
 
 void ContrastBody::resizeEvent(QResizeEvent*) {
     layOut();
+}
+
+// Drops
+
+void ContrastBody::dragEnterEvent(QDragEnterEvent* event) {
+    // Its own colours are there already.
+    if (board_.draggingEntry.value() || !isForContrast(*event->mimeData())) return;
+    event->acceptProposedAction();
+    const auto colour = dropped(*event->mimeData()).colour;
+    isRefused_ = colour && isRefusedByContrast(ui_, *colour);
+    ring_->setShown(!isRefused_);
+}
+
+void ContrastBody::dragMoveEvent(QDragMoveEvent* event) {
+    event->acceptProposedAction();
+    if (!isRefused_) return;
+    // The cursor says no, but the drop is let come, to be told why.
+    event->setDropAction(Qt::IgnoreAction);
+    event->accept();
+}
+
+void ContrastBody::dragLeaveEvent(QDragLeaveEvent*) {
+    isRefused_ = false;
+    ring_->setShown(false);
+}
+
+void ContrastBody::dropEvent(QDropEvent* event) {
+    if (!isRefused_) event->acceptProposedAction();
+    dragLeaveEvent(nullptr);
+    receiveInContrast(ui_, dropped(*event->mimeData()), std::nullopt);
 }
 
 void ContrastBody::paintEvent(QPaintEvent*) {

@@ -25,7 +25,8 @@
 namespace tintra {
 namespace {
 
-PasteTarget pasteTarget(Ui& ui) {
+/// As the colour of a role, when there is one at the time.
+PasteTarget pasteTarget(Ui& ui, const std::optional<ContrastBoard::Role>& as) {
     return {[] {
                 return PasteTarget::Words{
                     worded("One per line, or a whole stylesheet. Hex, rgb(), hsl(), oklch(), lab() "
@@ -33,8 +34,8 @@ PasteTarget pasteTarget(Ui& ui) {
                            "colour’s."),
                     worded("Send to Contrast")};
             },
-            [&ui](std::span<const PaletteFile::Swatch> swatches) {
-                takeInContrast(ui, swatches, std::nullopt);
+            [&ui, &as](std::span<const PaletteFile::Swatch> swatches) {
+                takeInContrast(ui, swatches, as);
             },
             ui.models.contrast().vision};
 }
@@ -55,7 +56,7 @@ ContrastWindow::ContrastWindow(Ui& ui)
     makeTools();
     assemble(tools_, body_, facts_);
     body_->fillMenu = [this](QMenu& menu) { fillContrastEntryMenu(menu, context()); };
-    body_->addColour = [this] { showPasteSheet(); };
+    body_->addColour = [this](std::optional<ContrastBoard::Role> as) { presentPasteSheet(as); };
     subscribe();
     sync();
     body_->main()->setFocus();
@@ -186,7 +187,12 @@ void ContrastWindow::pasteColours() {
 }
 
 void ContrastWindow::showPasteSheet() {
-    if (!pasteSheet_) pasteSheet_ = new PasteSheet(ui(), pasteTarget(ui()), this);
+    presentPasteSheet(std::nullopt);
+}
+
+void ContrastWindow::presentPasteSheet(std::optional<ContrastBoard::Role> as) {
+    pasteAs_ = as;
+    if (!pasteSheet_) pasteSheet_ = new PasteSheet(ui(), pasteTarget(ui(), pasteAs_), this);
     pasteSheet_->present();
 }
 

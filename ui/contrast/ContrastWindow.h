@@ -1,5 +1,6 @@
 #pragma once
 
+#include "colour/Contrast.h"
 #include "platform/Uuid.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/shared/Subscriptions.h"
@@ -55,6 +56,8 @@ private:
     void subscribe();
     void sync();
     QString factsText() const;
+    /// For the colour of a role, or for none.
+    void presentPasteSheet(std::optional<Contrast::Role> as);
 
     ContrastBoard& board_;
     ToolLine* tools_;
@@ -63,6 +66,7 @@ private:
     ContrastBody* body_;
     FactsLine* facts_;
     PasteSheet* pasteSheet_ = nullptr; ///< made when it is first asked for
+    std::optional<Contrast::Role> pasteAs_;
     Subscriptions subscriptions_;
 };
 
