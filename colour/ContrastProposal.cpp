@@ -1,3 +1,4 @@
+#include "colour/ContrastLightness.h"
 #include "colour/ContrastTarget.h"
 
 namespace tintra::Contrast {
@@ -25,7 +26,7 @@ std::string messageFor(const ReachReport& report) {
     if (!report.text) message = noReachText(Role::text);
     if (report.ground) return message;
     if (!message.empty()) message += ' ';
-    return message + std::string(noReachText(Role::ground));
+    return message.append(noReachText(Role::ground));
 }
 
 } // namespace
@@ -37,10 +38,8 @@ std::string_view noReachText(Role role) {
 
 ReachReport reachReport(const WashColor& text, const WashColor& ground, Target target,
                         LargeText large) {
-    const auto ratio = need(target, large);
-    ReachReport report{target,       ratio,        reaches(wcagRatio(text, ground), ratio),
-                       std::nullopt, std::nullopt, ""};
-    if (report.passes) {
+    ReachReport report{target, need(target, large), std::nullopt, std::nullopt, ""};
+    if (reaches(wcagRatio(text, ground), report.need)) {
         report.message = "This pair already reaches it.";
         return report;
     }

@@ -38,15 +38,11 @@ struct ReachProposal {
 struct ReachReport {
     Target target;
     double need;
-    bool passes; ///< as it is
     /// Nothing when no lightness of that side reaches, or the pair passes as it is.
     std::optional<ReachProposal> text, ground;
     /// Says that the pair passes or which sides do not reach; empty when both do.
     std::string message;
 };
-
-/// The sentence for a side that has no proposal.
-std::string_view noReachText(Role role);
 
 ReachReport reachReport(const WashColor& text, const WashColor& ground, Target target,
                         LargeText large);

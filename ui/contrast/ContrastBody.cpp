@@ -21,6 +21,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 namespace tintra {
 namespace {
@@ -127,9 +128,11 @@ std::vector<QWidget*> ContrastBody::regions() const {
 // Layout
 
 void ContrastBody::sync() {
-    const bool isEmpty = board_.entries().empty();
-    const bool isPair = !isEmpty && board_.mode.value() == ContrastBoard::Mode::pair;
-    const bool isWhole = board_.text() && board_.ground();
+    const Shown now{board_.mode, board_.entries().empty(), board_.text() && board_.ground()};
+    // Most changes are of a colour that is shown already.
+    if (std::exchange(shown_, now) == now) return;
+    const auto [mode, isEmpty, isWhole] = now;
+    const bool isPair = !isEmpty && mode == ContrastBoard::Mode::pair;
     const auto* focus = focusWidget();
     const bool had = focus && focus->hasFocus() && isAncestorOf(focus);
     listScroll_->setVisible(isPair);
@@ -137,8 +140,8 @@ void ContrastBody::sync() {
     specimen_->setVisible(isPair && isWhole);
     bar_->setVisible(isPair && isWhole);
     result_->setVisible(isPair && isWhole);
-    matrix_->setVisible(!isEmpty && board_.mode.value() == ContrastBoard::Mode::matrix);
-    ladder_->setVisible(!isEmpty && board_.mode.value() == ContrastBoard::Mode::ladder);
+    matrix_->setVisible(!isEmpty && mode == ContrastBoard::Mode::matrix);
+    ladder_->setVisible(!isEmpty && mode == ContrastBoard::Mode::ladder);
     layOut();
     update();
     // The keyboard stays in the body when what had it goes.

@@ -58,6 +58,13 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    /// What of it is shown.
+    struct Shown {
+        ContrastBoard::Mode mode;
+        bool isEmpty, isWhole; ///< no colour; a text and a ground
+        bool operator==(const Shown&) const = default;
+    };
+
     void connectParts();
     void sync();
     void layOut();
@@ -76,6 +83,7 @@ private:
     MatrixPage* matrix_;
     LadderPage* ladder_;
     DropRing* ring_;
+    std::optional<Shown> shown_;
     bool isRefused_ = false; ///< a colour that is there already is dragged over it
     Subscriptions subscriptions_;
 };

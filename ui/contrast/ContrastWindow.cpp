@@ -21,6 +21,7 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <algorithm>
+#include <utility>
 
 namespace tintra {
 namespace {
@@ -80,7 +81,13 @@ void ContrastWindow::makeTools() {
 
 void ContrastWindow::subscribe() {
     const auto again = [this] { sync(); };
-    subscriptions_.add(board_.content(), again);
+    subscriptions_.add(board_.content(), [this] {
+        // The tools and the facts tell how many colours there are and whether there is a pair, not
+        // which: a colour that is dragged through many changes none of it.
+        const auto now = std::tuple(board_.entries().size(), board_.text() != nullptr,
+                                    board_.ground() != nullptr);
+        if (std::exchange(told_, now) != now) sync();
+    });
     subscriptions_.add(board_.mode, again);
     subscriptions_.add(board_.measure, again);
     subscriptions_.add(board_.target, again);

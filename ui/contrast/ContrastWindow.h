@@ -8,6 +8,7 @@
 #include <QString>
 #include <cstddef>
 #include <optional>
+#include <tuple>
 
 class QMenu;
 
@@ -67,6 +68,8 @@ private:
     FactsLine* facts_;
     PasteSheet* pasteSheet_ = nullptr; ///< made when it is first asked for
     std::optional<Contrast::Role> pasteAs_;
+    /// Colours, a text, a ground, as the tools and the facts last told of them.
+    std::optional<std::tuple<std::size_t, bool, bool>> told_;
     Subscriptions subscriptions_;
 };
 

@@ -1,5 +1,6 @@
 #include "ui/contrast/ReachCanvas.h"
 
+#include "colour/ContrastLightness.h"
 #include "platform/Number.h"
 #include "state/ContrastSending.h"
 #include "state/Models.h"
@@ -144,7 +145,8 @@ std::vector<CanvasItem> ReachCanvas::layoutItems(QSizeF size) const {
         item.name = shown(words);
         items.push_back(std::move(item));
     };
-    if (report_->passes) {
+    const auto ratio = Contrast::wcagRatio(board_.text()->color, board_.ground()->color);
+    if (Contrast::reaches(ratio, report_->need)) {
         say(report_->message);
         return items;
     }

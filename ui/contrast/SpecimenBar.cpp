@@ -115,7 +115,7 @@ void SpecimenBar::layOut() {
     auto swap = swap_->sizeHint().width();
     if (left + theme.scaled(kNoteRoom) + kGap + swap + kInset > width()) {
         swap_->setText({});
-        swap = theme.scaled(36);
+        swap = swap_->sizeHint().width();
     }
     // A button keeps room for its ring around what is painted of it.
     const auto ring = StyleParts::kRingRoom.right();
