@@ -1,3 +1,4 @@
+#include "colour/ContrastLightness.h"
 #include "colour/ContrastTarget.h"
 
 namespace tintra::Contrast {
@@ -22,13 +23,18 @@ std::optional<ReachProposal> moved(Role role, const WashColor& text, const WashC
 
 std::string messageFor(const ReachReport& report) {
     std::string message;
-    if (!report.text) message = "No lightness of the text reaches it on this ground.";
+    if (!report.text) message = noReachText(Role::text);
     if (report.ground) return message;
     if (!message.empty()) message += ' ';
-    return message + "No lightness of the ground reaches it under this text.";
+    return message.append(noReachText(Role::ground));
 }
 
 } // namespace
+
+std::string_view noReachText(Role role) {
+    return role == Role::text ? "No lightness of the text reaches it on this ground."
+                              : "No lightness of the ground reaches it under this text.";
+}
 
 ReachReport reachReport(const WashColor& text, const WashColor& ground, Target target,
                         LargeText large) {

@@ -1,6 +1,7 @@
 #include "ui/contrast/ContrastBody.h"
 
 #include "state/Models.h"
+#include "ui/contrast/ContrastDrops.h"
 #include "ui/contrast/EntryList.h"
 #include "ui/contrast/LadderCanvas.h"
 #include "ui/contrast/LadderPage.h"
@@ -12,12 +13,15 @@
 #include "ui/contrast/SpecimenCanvas.h"
 #include "ui/contrast/VerdictCanvas.h"
 #include "ui/shared/CanvasScroll.h"
+#include "ui/shared/DropRing.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
+#include <QDropEvent>
 #include <QMenu>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 namespace tintra {
 namespace {
@@ -33,7 +37,8 @@ ContrastBody::ContrastBody(Ui& ui, QWidget* parent)
       list_(new EntryList(ui, nullptr)), halves_(new PairHalves(ui, this)),
       specimen_(new SpecimenCanvas(ui, this)), bar_(new SpecimenBar(ui, this)),
       result_(new ResultPanel(ui, this)), matrix_(new MatrixPage(ui, this)),
-      ladder_(new LadderPage(ui, this)) {
+      ladder_(new LadderPage(ui, this)), ring_(new DropRing(ui.theme, this)) {
+    setAcceptDrops(true);
     listScroll_->hold(*list_);
     connectParts();
     const auto again = [this] { sync(); };
@@ -53,7 +58,7 @@ void ContrastBody::connectParts() {
     list_->reveal = [this](const QRect& what) { listScroll_->reveal(what); };
     list_->fillMenu = menu;
     list_->addColour = [this] {
-        if (addColour) addColour();
+        if (addColour) addColour(std::nullopt);
     };
     matrix_->matrix().fillMenu = menu;
     ladder_->ladder().fillMenu = menu;
@@ -61,8 +66,11 @@ void ContrastBody::connectParts() {
 }
 
 void ContrastBody::chooseFor(ContrastBoard::Role role, QPoint at) {
+    const auto add = [this, role] {
+        if (addColour) addColour(role);
+    };
     if (board_.entries().empty()) {
-        if (addColour) addColour();
+        add();
         return;
     }
     auto* menu = new QMenu(this);
@@ -71,9 +79,7 @@ void ContrastBody::chooseFor(ContrastBoard::Role role, QPoint at) {
         menu->addAction(oneLine(board_.name(held), 60), menu,
                         [this, role, id = held.id] { board_.setRole(role, id); });
     menu->addSeparator();
-    menu->addAction(worded("Add a colour"), menu, [this] {
-        if (addColour) addColour();
-    });
+    menu->addAction(worded("Add a colour"), menu, add);
     menu->popup(at);
 }
 
@@ -112,7 +118,7 @@ void ContrastBody::focusEntry(std::size_t at) {
 QString ContrastBody::figureText() const {
     if (matrix_->isVisibleTo(this)) return matrix_->matrix().figureText();
     if (ladder_->isVisibleTo(this)) return ladder_->ladder().figureText();
-    return result_->verdict().figureText();
+    return result_->isVisibleTo(this) ? result_->verdict().figureText() : QString();
 }
 
 std::vector<QWidget*> ContrastBody::regions() const {
@@ -122,9 +128,11 @@ std::vector<QWidget*> ContrastBody::regions() const {
 // Layout
 
 void ContrastBody::sync() {
-    const bool isEmpty = board_.entries().empty();
-    const bool isPair = !isEmpty && board_.mode.value() == ContrastBoard::Mode::pair;
-    const bool isWhole = board_.text() && board_.ground();
+    const Shown now{board_.mode, board_.entries().empty(), board_.text() && board_.ground()};
+    // Most changes are of a colour that is shown already.
+    if (std::exchange(shown_, now) == now) return;
+    const auto [mode, isEmpty, isWhole] = now;
+    const bool isPair = !isEmpty && mode == ContrastBoard::Mode::pair;
     const auto* focus = focusWidget();
     const bool had = focus && focus->hasFocus() && isAncestorOf(focus);
     listScroll_->setVisible(isPair);
@@ -132,8 +140,8 @@ void ContrastBody::sync() {
     specimen_->setVisible(isPair && isWhole);
     bar_->setVisible(isPair && isWhole);
     result_->setVisible(isPair && isWhole);
-    matrix_->setVisible(!isEmpty && board_.mode.value() == ContrastBoard::Mode::matrix);
-    ladder_->setVisible(!isEmpty && board_.mode.value() == ContrastBoard::Mode::ladder);
+    matrix_->setVisible(!isEmpty && mode == ContrastBoard::Mode::matrix);
+    ladder_->setVisible(!isEmpty && mode == ContrastBoard::Mode::ladder);
     layOut();
     update();
     // The keyboard stays in the body when what had it goes.
@@ -141,6 +149,7 @@ void ContrastBody::sync() {
 }
 
 void ContrastBody::layOut() {
+    ring_->setGeometry(rect());
     matrix_->setGeometry(rect());
     ladder_->setGeometry(rect());
     if (board_.entries().empty())
@@ -152,7 +161,7 @@ void ContrastBody::layOut() {
 void ContrastBody::layOutPair() {
     const bool compact = width() < ui_.theme.scaled(kCompactBelow);
     const auto list = ui_.theme.scaled(compact ? EntryList::kCompactWidth : EntryList::kWidth);
-    listScroll_->setGeometry(0, 0, list, height());
+    listScroll_->setGeometry(0, 0, list - 1, height()); // and a line
     const auto left = list + kGap, wide = width() - left - kGap;
     const auto result = result_->sizeHint().height(), bar = bar_->sizeHint().height();
     const auto resultTop = height() - kGap - result;
@@ -165,6 +174,36 @@ void ContrastBody::layOutPair() {
 
 void ContrastBody::resizeEvent(QResizeEvent*) {
     layOut();
+}
+
+// Drops
+
+void ContrastBody::dragEnterEvent(QDragEnterEvent* event) {
+    // Its own colours are there already.
+    if (board_.draggingEntry.value() || !isForContrast(*event->mimeData())) return;
+    event->acceptProposedAction();
+    const auto colour = dropped(*event->mimeData()).colour;
+    isRefused_ = colour && isRefusedByContrast(ui_, *colour);
+    ring_->setShown(!isRefused_);
+}
+
+void ContrastBody::dragMoveEvent(QDragMoveEvent* event) {
+    event->acceptProposedAction();
+    if (!isRefused_) return;
+    // The cursor says no, but the drop is let come, to be told why.
+    event->setDropAction(Qt::IgnoreAction);
+    event->accept();
+}
+
+void ContrastBody::dragLeaveEvent(QDragLeaveEvent*) {
+    isRefused_ = false;
+    ring_->setShown(false);
+}
+
+void ContrastBody::dropEvent(QDropEvent* event) {
+    if (!isRefused_) event->acceptProposedAction();
+    dragLeaveEvent(nullptr);
+    receiveInContrast(ui_, dropped(*event->mimeData()), std::nullopt);
 }
 
 void ContrastBody::paintEvent(QPaintEvent*) {

@@ -15,6 +15,7 @@ class QMenu;
 namespace tintra {
 
 class CanvasScroll;
+class DropRing;
 class EntryList;
 class LadderPage;
 class MatrixPage;
@@ -43,15 +44,27 @@ public:
     /// Where the keyboard begins in the view that is shown.
     QWidget* main() const;
 
-    /// Is asked for another colour, and to fill the menu of the target.
-    std::function<void()> addColour;
+    /// Is asked for another colour, for a role or for none, and to fill the menu of the target.
+    std::function<void(std::optional<ContrastBoard::Role>)> addColour;
     std::function<void(QMenu&)> fillMenu;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    // What is dropped beside the views that give roles is sent.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
+    /// What of it is shown.
+    struct Shown {
+        ContrastBoard::Mode mode;
+        bool isEmpty, isWhole; ///< no colour; a text and a ground
+        bool operator==(const Shown&) const = default;
+    };
+
     void connectParts();
     void sync();
     void layOut();
@@ -69,6 +82,9 @@ private:
     ResultPanel* result_;
     MatrixPage* matrix_;
     LadderPage* ladder_;
+    DropRing* ring_;
+    std::optional<Shown> shown_;
+    bool isRefused_ = false; ///< a colour that is there already is dragged over it
     Subscriptions subscriptions_;
 };
 

@@ -53,12 +53,26 @@ void receiveFile(Ui& ui, const std::filesystem::path& file, Role as) {
 
 } // namespace
 
+bool isForContrast(const QMimeData& data) {
+    if (data.hasFormat(QString::fromLatin1(kColourMimeType)) || data.hasColor()) return true;
+    if (!data.hasUrls()) return data.hasText() && !data.hasImage();
+    return std::ranges::any_of(dropped(data).files, [](const auto& file) {
+        return PaletteFile::kindOf(file).has_value();
+    });
+}
+
+bool isRefusedByContrast(const Ui& ui, const Drag& drag) {
+    return !std::holds_alternative<DragOfContrastEntry>(drag.source) &&
+           ui.models.contrast().held(drag.color);
+}
+
 void takeInContrast(Ui& ui, std::span<const PaletteFile::Swatch> swatches,
                     std::optional<Contrast::Role> as) {
-    if (as || swatches.size() == 1)
-        sendOne(ui, swatches.front().color, swatches.front().name, as);
-    else
-        sending(ui).sendAll(swatches);
+    if (swatches.size() == 1) return sendOne(ui, swatches.front().color, swatches.front().name, as);
+    sending(ui).sendAll(swatches);
+    auto& board = ui.models.contrast();
+    if (const auto* first = as ? board.held(swatches.front().color) : nullptr)
+        board.setRole(*as, Uuid(first->id));
 }
 
 void receiveTextInContrast(Ui& ui, std::string text, std::optional<Contrast::Role> as) {

@@ -11,6 +11,12 @@
 
 namespace tintra {
 
+/// Whether a drag holds what the contrast window takes: a colour, text, a palette's file. Pictures
+/// are for palettes.
+bool isForContrast(const QMimeData& data);
+/// Whether a dragged colour would be refused where drops have no role: it is there already.
+bool isRefusedByContrast(const Ui& ui, const Drag& drag);
+
 /// Takes what was dropped on the contrast window or pasted into it: a colour, every colour of a
 /// text or of a palette file as far as there is room. With a role the colour, or the first, gets
 /// it. What it comes to is said in the window.

@@ -21,11 +21,13 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <algorithm>
+#include <utility>
 
 namespace tintra {
 namespace {
 
-PasteTarget pasteTarget(Ui& ui) {
+/// As the colour of a role, when there is one at the time.
+PasteTarget pasteTarget(Ui& ui, const std::optional<ContrastBoard::Role>& as) {
     return {[] {
                 return PasteTarget::Words{
                     worded("One per line, or a whole stylesheet. Hex, rgb(), hsl(), oklch(), lab() "
@@ -33,8 +35,8 @@ PasteTarget pasteTarget(Ui& ui) {
                            "colour’s."),
                     worded("Send to Contrast")};
             },
-            [&ui](std::span<const PaletteFile::Swatch> swatches) {
-                takeInContrast(ui, swatches, std::nullopt);
+            [&ui, &as](std::span<const PaletteFile::Swatch> swatches) {
+                takeInContrast(ui, swatches, as);
             },
             ui.models.contrast().vision};
 }
@@ -55,7 +57,7 @@ ContrastWindow::ContrastWindow(Ui& ui)
     makeTools();
     assemble(tools_, body_, facts_);
     body_->fillMenu = [this](QMenu& menu) { fillContrastEntryMenu(menu, context()); };
-    body_->addColour = [this] { showPasteSheet(); };
+    body_->addColour = [this](std::optional<ContrastBoard::Role> as) { presentPasteSheet(as); };
     subscribe();
     sync();
     body_->main()->setFocus();
@@ -79,7 +81,13 @@ void ContrastWindow::makeTools() {
 
 void ContrastWindow::subscribe() {
     const auto again = [this] { sync(); };
-    subscriptions_.add(board_.content(), again);
+    subscriptions_.add(board_.content(), [this] {
+        // The tools and the facts tell how many colours there are and whether there is a pair, not
+        // which: a colour that is dragged through many changes none of it.
+        const auto now = std::tuple(board_.entries().size(), board_.text() != nullptr,
+                                    board_.ground() != nullptr);
+        if (std::exchange(told_, now) != now) sync();
+    });
     subscriptions_.add(board_.mode, again);
     subscriptions_.add(board_.measure, again);
     subscriptions_.add(board_.target, again);
@@ -186,7 +194,12 @@ void ContrastWindow::pasteColours() {
 }
 
 void ContrastWindow::showPasteSheet() {
-    if (!pasteSheet_) pasteSheet_ = new PasteSheet(ui(), pasteTarget(ui()), this);
+    presentPasteSheet(std::nullopt);
+}
+
+void ContrastWindow::presentPasteSheet(std::optional<ContrastBoard::Role> as) {
+    pasteAs_ = as;
+    if (!pasteSheet_) pasteSheet_ = new PasteSheet(ui(), pasteTarget(ui(), pasteAs_), this);
     pasteSheet_->present();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "colour/Contrast.h"
 #include "platform/Uuid.h"
 #include "ui/frame/MainWindow.h"
 #include "ui/shared/Subscriptions.h"
@@ -7,6 +8,7 @@
 #include <QString>
 #include <cstddef>
 #include <optional>
+#include <tuple>
 
 class QMenu;
 
@@ -55,6 +57,8 @@ private:
     void subscribe();
     void sync();
     QString factsText() const;
+    /// For the colour of a role, or for none.
+    void presentPasteSheet(std::optional<Contrast::Role> as);
 
     ContrastBoard& board_;
     ToolLine* tools_;
@@ -63,6 +67,9 @@ private:
     ContrastBody* body_;
     FactsLine* facts_;
     PasteSheet* pasteSheet_ = nullptr; ///< made when it is first asked for
+    std::optional<Contrast::Role> pasteAs_;
+    /// Colours, a text, a ground, as the tools and the facts last told of them.
+    std::optional<std::tuple<std::size_t, bool, bool>> told_;
     Subscriptions subscriptions_;
 };
 

@@ -1,6 +1,7 @@
 #include "ui/contrast/EntryList.h"
 
 #include "state/Models.h"
+#include "ui/contrast/ChosenItem.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/PlacedField.h"
 #include "ui/shared/SwatchPainter.h"
@@ -23,9 +24,8 @@ QString badgeText(ContrastBoard::Role role) {
 }
 
 QFont badgeFont(const Theme& theme) {
-    auto font = theme.font(TextStyle::caption);
+    auto font = theme.font(TextStyle::name, theme.color(Token::onsel));
     font.setPixelSize(theme.scaled(10));
-    font.setWeight(QFont::Bold);
     font.setLetterSpacing(QFont::AbsoluteSpacing, 0.5);
     return font;
 }
@@ -37,11 +37,11 @@ EntryList::EntryList(Ui& ui, QWidget* parent)
     setAccessibleName(worded("Colours"));
     setAcceptDrops(true);
     auto& preferences = ui.models.preferences();
-    const auto again = [this] { relayout(); };
+    const auto again = [this] { upkeep_.due(); };
     subscriptions_.add(board_.content(), [this] {
         if (field_) field_->end(false);
         setMinimumHeight(heightNeeded());
-        relayout();
+        upkeep_.due();
     });
     subscriptions_.add(board_.vision, again);
     subscriptions_.add(board_.draggingEntry, again);
@@ -51,7 +51,7 @@ EntryList::EntryList(Ui& ui, QWidget* parent)
     subscriptions_.add(preferences.rgbProfile, again);
     subscriptions_.add(ui.theme.version(), [this] {
         setMinimumHeight(heightNeeded());
-        relayout();
+        upkeep_.due();
     });
     setMinimumHeight(heightNeeded());
     changed = [this] { followEntry(); };
@@ -119,10 +119,9 @@ QRectF EntryList::chipRect(const CanvasItem& row) const {
 }
 
 QRectF EntryList::nameRect(const CanvasItem& row) const {
-    const auto line = theme().lineHeight(TextStyle::control);
-    const auto both = line + theme().lineHeight(TextStyle::codeOnSide);
-    return {row.rect.left() + theme().scaled(kNameAt), row.rect.center().y() - both / 2.0,
-            row.rect.width() - theme().scaled(kNameAt) - kInset, qreal(line)};
+    const auto both = theme().scaled(kNameLine) + theme().scaled(kCodeLine);
+    return {row.rect.left() + theme().scaled(kNameAt), row.rect.center().y() + 1 - both / 2.0,
+            row.rect.width() - theme().scaled(kNameAt) - kInset, qreal(theme().scaled(kNameLine))};
 }
 
 QRectF EntryList::roleRect(const CanvasItem& row, Role role) const {
@@ -165,7 +164,8 @@ void EntryList::paintItem(QPainter& painter, const CanvasItem& item, ItemState s
         ui_.painter.chip(painter, chipRect(item), one.color, board_.vision);
         paintWords(painter, item, state.hovered);
     }
-    if (state.focused) paintFocusRing(painter, theme(), item.rect.adjusted(1, 1, -1, -1), 6);
+    if (state.focused || (item.kind == entry && isChosen(*this, item)))
+        paintFocusRing(painter, theme(), item.rect.adjusted(1, 1, -1, -1), metrics::kControlRadius);
 }
 
 void EntryList::paintWords(QPainter& painter, const CanvasItem& item, bool hovered) const {
@@ -183,14 +183,12 @@ void EntryList::paintWords(QPainter& painter, const CanvasItem& item, bool hover
     if (isCompact()) return;
     const auto write = [&](const QRectF& in, TextStyle style, Token ink, const QString& text) {
         const auto font = theme().font(style);
-        painter.setFont(font);
         painter.setPen(theme().color(ink));
-        painter.drawText(in, Qt::AlignLeft | Qt::AlignVCenter,
-                         QFontMetricsF(font).elidedText(text, Qt::ElideRight, in.width()));
+        lines_.paint(painter, font, in, Qt::AlignLeft, lines_.cut(font, text, in.width()));
     };
     write(words, TextStyle::control, Token::ink, item.name);
     words.moveTop(words.bottom());
-    words.setHeight(theme().lineHeight(TextStyle::codeOnSide));
+    words.setHeight(theme().scaled(kCodeLine));
     write(words, TextStyle::codeOnSide, Token::ink3, item.value);
 }
 

@@ -2,9 +2,12 @@
 
 #include "state/ContrastBoard.h"
 #include "ui/Ui.h"
+#include "ui/contrast/EntryDrag.h"
 #include "ui/shared/Canvas.h"
 #include "ui/shared/ColourMime.h"
 #include "ui/shared/Subscriptions.h"
+#include "ui/shared/TextLines.h"
+#include "ui/shared/Upkeep.h"
 
 #include <QPointer>
 #include <cstddef>
@@ -26,6 +29,8 @@ public:
 
     /// px at regular text size.
     static constexpr int kWidth = 224, kCompactWidth = 64;
+    /// Of a name and the code beneath it, which stand closer than the lines of a text.
+    static constexpr int kNameLine = 17, kCodeLine = 15;
 
     EntryList(Ui& ui, QWidget* parent);
     ~EntryList() override;
@@ -79,7 +84,6 @@ private:
     void paintBadge(QPainter& painter, const CanvasItem& row, Role role) const;
     void paintRoleButtons(QPainter& painter, const CanvasItem& row) const;
     void paintAddRow(QPainter& painter, const CanvasItem& row, bool hovered) const;
-    void startDrag(std::size_t at);
     void followEntry();
     std::size_t insertionAt(QPointF place) const;
     QRectF insertionBar() const;
@@ -93,7 +97,11 @@ private:
     bool isOver_ = false;                  ///< something that can be taken is dragged over it
     bool isMoving_ = false;                ///< that is an entry of the list
     std::optional<Uuid> entry_;            ///< the one with the focus, wherever it stands
+    bool isRefused_ = false;               ///< a colour that is there already is dragged over it
+    EntryPull pull_;
     QPointer<PlacedField> field_;
+    mutable TextLines lines_;
+    Upkeep upkeep_{*this, [this] { relayout(); }};
     Subscriptions subscriptions_;
 };
 

@@ -3,13 +3,10 @@
 #include "state/Models.h"
 #include "ui/contrast/ContrastDrops.h"
 #include "ui/contrast/EntryList.h"
-#include "ui/shared/ColourDrag.h"
 #include "ui/shared/PlacedField.h"
-#include "ui/shared/SwatchPainter.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
-#include <QApplication>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QMenu>
@@ -73,16 +70,15 @@ void EntryList::mousePressEvent(QMouseEvent* event) {
     pressedAt_ = event->position();
     if (pressed_ >= 0) setFocused(pressed_);
     if (event->button() != Qt::LeftButton) pressed_ = -1;
+    pull_.press(*event, roleAt(pressed_, pressedAt_) ? std::nullopt : target());
 }
 
 void EntryList::mouseMoveEvent(QMouseEvent* event) {
     Canvas::mouseMoveEvent(event);
-    const auto far = (event->position() - pressedAt_).manhattanLength();
-    if (pressed_ < 0 || !(event->buttons() & Qt::LeftButton) ||
-        far < QApplication::startDragDistance())
-        return;
-    const auto& row = items()[static_cast<std::size_t>(pressed_)];
-    if (row.kind == entry && !roleAt(pressed_, pressedAt_)) startDrag(row.index);
+    if (const auto id = pressed_ < 0 ? std::nullopt : pull_.pulled(*event)) {
+        pressed_ = -1;
+        dragEntry(ui_, *this, *id);
+    }
 }
 
 void EntryList::mouseReleaseEvent(QMouseEvent* event) {
@@ -142,33 +138,24 @@ void EntryList::resizeEvent(QResizeEvent* event) {
 
 // Drag and drop
 
-void EntryList::startDrag(std::size_t at) {
-    pressed_ = -1;
-    const auto held = board_.entries()[at];
-    SwatchLook look;
-    look.color = held.color;
-    look.vision = board_.vision;
-    const auto item = static_cast<std::size_t>(find(entry, at));
-    look.name = items()[item].name;
-    look.code = items()[item].value;
-    board_.draggingEntry = held.id;
-    const QPointer<EntryList> self(this);
-    dragColour(*this, ui_.painter, {held.color, held.givenName, DragOfContrastEntry{held.id}}, look,
-               kDragCard);
-    // The window may have been closed in the middle of the drag.
-    if (self) board_.draggingEntry = std::nullopt;
-}
-
 void EntryList::dragEnterEvent(QDragEnterEvent* event) {
-    if (!isUnderstood(*event->mimeData())) return;
+    if (!isForContrast(*event->mimeData())) return;
     event->acceptProposedAction();
-    isOver_ = true;
     isMoving_ = board_.draggingEntry.value().has_value();
+    const auto colour = dropped(*event->mimeData()).colour;
+    isRefused_ = colour && isRefusedByContrast(ui_, *colour);
+    isOver_ = !isRefused_;
     update();
 }
 
 void EntryList::dragMoveEvent(QDragMoveEvent* event) {
     event->acceptProposedAction();
+    if (isRefused_) {
+        // The cursor says no, but the drop is let come, to be told why.
+        event->setDropAction(Qt::IgnoreAction);
+        event->accept();
+        return;
+    }
     insertion_ = isMoving_ ? std::optional(insertionAt(event->position())) : std::nullopt;
     if (reveal) reveal(QRect(event->position().toPoint(), QSize(1, 1)).adjusted(0, -24, 0, 24));
     update();
@@ -176,15 +163,15 @@ void EntryList::dragMoveEvent(QDragMoveEvent* event) {
 
 void EntryList::dragLeaveEvent(QDragLeaveEvent*) {
     insertion_.reset();
-    isOver_ = false;
+    isOver_ = isRefused_ = false;
     update();
 }
 
 void EntryList::dropEvent(QDropEvent* event) {
     const auto drop = dropped(*event->mimeData());
     const auto to = insertionAt(event->position());
+    if (!isRefused_) event->acceptProposedAction();
     dragLeaveEvent(nullptr);
-    event->acceptProposedAction();
     const auto* moved = drop.colour ? entryOf(*drop.colour) : nullptr;
     if (!moved) {
         receiveInContrast(ui_, drop, std::nullopt);

@@ -2,6 +2,7 @@
 
 #include "state/Models.h"
 #include "ui/contrast/ContrastDrops.h"
+#include "ui/contrast/EntryList.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/SwatchPainter.h"
 #include "ui/shared/Text.h"
@@ -86,19 +87,20 @@ void FixedColour::paintEvent(QPaintEvent*) {
     }
     if (hasFocus() || over_)
         paintFocusRing(painter, theme, chip.adjusted(-2, -2, 2, 2), kRadius + 2);
-    const auto write = [&](qreal top, TextStyle style, Token ink, const QString& words) {
+    const qreal nameLine = theme.scaled(EntryList::kNameLine);
+    const qreal codeLine = theme.scaled(EntryList::kCodeLine);
+    const auto write = [&](qreal top, qreal high, TextStyle style, Token ink,
+                           const QString& words) {
         const auto font = theme.font(style);
-        const QRectF in(chip.right() + kGap, top, width() - chip.right() - kGap,
-                        theme.lineHeight(style));
+        const QRectF in(chip.right() + kGap, top, width() - chip.right() - kGap, high);
         painter.setFont(font);
         painter.setPen(theme.color(ink));
         painter.drawText(in, Qt::AlignLeft | Qt::AlignVCenter,
                          QFontMetricsF(font).elidedText(words, Qt::ElideRight, in.width()));
     };
-    const auto high = theme.lineHeight(TextStyle::name) + theme.lineHeight(TextStyle::codeOnSide);
-    const auto top = (height() - high) / 2.0;
-    write(top, TextStyle::name, Token::ink, name_);
-    write(top + theme.lineHeight(TextStyle::name), TextStyle::codeOnSide, Token::ink3, code_);
+    const auto top = (height() - nameLine - codeLine) / 2.0 + 1;
+    write(top, nameLine, TextStyle::name, Token::ink, name_);
+    write(top + nameLine, codeLine, TextStyle::codeOnSide, Token::ink3, code_);
 }
 
 void FixedColour::choose() {
@@ -119,7 +121,7 @@ void FixedColour::setOver(bool over) {
 }
 
 void FixedColour::dragEnterEvent(QDragEnterEvent* event) {
-    if (!isUnderstood(*event->mimeData())) return;
+    if (!isForContrast(*event->mimeData())) return;
     event->acceptProposedAction();
     setOver(true);
 }

@@ -2,6 +2,7 @@
 
 #include "state/Models.h"
 #include "state/UpdateGroup.h"
+#include "ui/contrast/ChosenItem.h"
 #include "ui/contrast/CopyFigure.h"
 #include "ui/contrast/PairColours.h"
 #include "ui/contrast/SpecimenFace.h"
@@ -26,6 +27,7 @@ using Measure = ContrastBoard::Measure;
 
 constexpr int kMargin = 20, kRung = 32, kRow = 40, kRungGap = 4, kChip = 24, kNameAt = 34;
 constexpr int kBarAt = 172, kNarrowBarAt = 120, kFigures = 136, kBarPadding = 16;
+constexpr int kFoot = 16;
 constexpr int kLargestWords = 20;
 
 /// What the levels, from the highest down, are enough for.
@@ -55,7 +57,7 @@ QString firstSentence(const std::string& specimen) {
 LadderCanvas::LadderCanvas(Ui& ui, QWidget* parent)
     : Canvas(ui.theme, parent), ui_(ui), board_(ui.models.contrast()) {
     setAccessibleName(worded("Every colour against one"));
-    const auto again = [this] { sync(); };
+    const auto again = [this] { upkeep_.due(); };
     subscriptions_.add(board_.content(), again);
     subscriptions_.add(board_.measure, again);
     subscriptions_.add(board_.target, again);
@@ -73,7 +75,7 @@ LadderCanvas::LadderCanvas(Ui& ui, QWidget* parent)
 void LadderCanvas::syncFace() {
     wordsFont_ = specimenFace(board_, theme()).font;
     wordsFont_.setPixelSize(std::min(wordsFont_.pixelSize(), kLargestWords));
-    sync();
+    upkeep_.due();
 }
 
 void LadderCanvas::sync() {
@@ -115,7 +117,7 @@ QString LadderCanvas::figureText() const {
 int LadderCanvas::heightNeeded() const {
     const auto rungs = static_cast<int>(ladder_.rungs.size()) + 1;
     return rungs * (theme().scaled(kRung) + kRungGap) +
-           static_cast<int>(rowCount()) * theme().scaled(kRow) + kMargin;
+           static_cast<int>(rowCount()) * theme().scaled(kRow) + kFoot;
 }
 
 std::vector<CanvasItem> LadderCanvas::layoutItems(QSizeF size) const {
@@ -195,10 +197,9 @@ void LadderCanvas::paintBar(QPainter& painter, const CanvasItem& item) const {
     painter.drawRoundedRect(bar, metrics::kControlRadius, metrics::kControlRadius);
     ui_.painter.hairline(painter, bar, metrics::kControlRadius);
     const auto words = bar.adjusted(kBarPadding, 0, -kBarPadding, 0);
-    painter.setFont(wordsFont_);
     painter.setPen(pair.text);
-    painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter,
-                     QFontMetricsF(wordsFont_).elidedText(words_, Qt::ElideRight, words.width()));
+    lines_.paint(painter, wordsFont_, words, Qt::AlignLeft,
+                 lines_.cut(wordsFont_, words_, words.width()));
 }
 
 void LadderCanvas::paintRow(QPainter& painter, const CanvasItem& item) const {
@@ -211,10 +212,8 @@ void LadderCanvas::paintRow(QPainter& painter, const CanvasItem& item) const {
     const QRectF name(in.left() + theme().scaled(kNameAt), in.top(),
                       bar.left() - in.left() - theme().scaled(kNameAt) - 8, in.height());
     const auto font = theme().font(TextStyle::control);
-    painter.setFont(font);
     painter.setPen(theme().color(Token::ink));
-    painter.drawText(name, Qt::AlignLeft | Qt::AlignVCenter,
-                     QFontMetricsF(font).elidedText(item.name, Qt::ElideRight, name.width()));
+    lines_.paint(painter, font, name, Qt::AlignLeft, lines_.cut(font, item.name, name.width()));
     paintBar(painter, item);
     painter.setFont(theme().font(TextStyle::title));
     painter.setPen(theme().color(Token::ink));
@@ -237,7 +236,7 @@ void LadderCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemStat
         painter.drawRoundedRect(around, metrics::kControlRadius, metrics::kControlRadius);
     }
     paintRow(painter, item);
-    if (state.focused)
+    if (state.focused || isChosen(*this, item))
         paintFocusRing(painter, theme(), around.adjusted(1, 1, -1, -1), metrics::kControlRadius);
 }
 
@@ -259,7 +258,14 @@ void LadderCanvas::openPair(int item) {
 
 void LadderCanvas::mousePressEvent(QMouseEvent* event) {
     const auto item = itemAt(event->position());
-    if (item >= 0 && items()[static_cast<std::size_t>(item)].kind == row) setFocused(item);
+    const bool isRow = item >= 0 && items()[static_cast<std::size_t>(item)].kind == row;
+    if (isRow) setFocused(item);
+    pull_.press(*event, isRow ? target() : std::nullopt);
+}
+
+void LadderCanvas::mouseMoveEvent(QMouseEvent* event) {
+    Canvas::mouseMoveEvent(event);
+    if (const auto id = pull_.pulled(*event)) dragEntry(ui_, *this, *id);
 }
 
 void LadderCanvas::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -2,8 +2,11 @@
 
 #include "state/ContrastReadings.h"
 #include "ui/Ui.h"
+#include "ui/contrast/EntryDrag.h"
 #include "ui/shared/Canvas.h"
 #include "ui/shared/Subscriptions.h"
+#include "ui/shared/TextLines.h"
+#include "ui/shared/Upkeep.h"
 
 #include <cstddef>
 #include <functional>
@@ -37,6 +40,7 @@ protected:
     void paintItem(QPainter& painter, const CanvasItem& item, ItemState state) override;
     void focusMoved(int item) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -59,6 +63,9 @@ private:
     std::vector<QString> names_, others_; ///< of the rows: name, figure of the other measure
     QString words_;                       ///< the first sentence of the specimen
     QFont wordsFont_;
+    mutable TextLines lines_;
+    EntryPull pull_;
+    Upkeep upkeep_{*this, [this] { sync(); }};
     Subscriptions subscriptions_;
 };
 

@@ -14,7 +14,7 @@
 namespace tintra {
 namespace {
 
-constexpr int kHead = 58, kSide = 20, kGap = 12, kRing = 4;
+constexpr int kHead = 58, kTop = 3, kSide = 20, kGap = 12, kRing = 4;
 
 } // namespace
 
@@ -45,10 +45,10 @@ void LadderPage::layOut() {
     const auto head = ui_.theme.scaled(kHead);
     const auto size = fixes_->sizeHint();
     fixes_->setGeometry(
-        QRect(QPoint(width() - kSide - size.width(), (head - size.height()) / 2), size));
+        QRect(QPoint(width() - kSide - size.width(), (head - size.height()) / 2 + kTop), size));
     const auto fixed = fixed_->sizeHint();
     const auto most = fixes_->x() - kSide - kGap;
-    fixed_->setGeometry(kSide - kRing, (head - fixed.height()) / 2,
+    fixed_->setGeometry(kSide - kRing, (head - fixed.height()) / 2 + kTop,
                         std::min(fixed.width(), std::max(0, most)), fixed.height());
     scroll_->setGeometry(0, head, width(), height() - head);
 }

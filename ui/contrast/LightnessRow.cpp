@@ -44,11 +44,7 @@ LightnessRow::LightnessRow(Ui& ui, ContrastBoard::Role role, QWidget* parent)
       row_(new ChannelRow(ui.theme, this, kLabel)) {
     row_->setChannel(role == ContrastBoard::Role::text ? kText : kGround);
     row_->changed = [this](double lightness) { move(lightness); };
-    row_->settled = [this] {
-        origin_.reset();
-        sync();
-    };
-    const auto again = [this] { sync(); };
+    const auto again = [this] { upkeep_.due(); };
     subscriptions_.add(board_.content(), again);
     subscriptions_.add(board_.vision, again);
     subscriptions_.add(board_.target, [this] { update(); });
@@ -57,9 +53,9 @@ LightnessRow::LightnessRow(Ui& ui, ContrastBoard::Role role, QWidget* parent)
     subscriptions_.add(ui.theme.version(), [this] {
         row_->restyle();
         updateGeometry();
-        sync();
+        upkeep_.due();
     });
-    sync();
+    upkeep_.due();
 }
 
 QSize LightnessRow::sizeHint() const {
@@ -78,7 +74,7 @@ void LightnessRow::sync() {
     const auto* one = moving();
     const auto* other = fixed();
     if (!one || !other) return;
-    // Whatever else changes the colour ends the drag.
+    // Whatever else changes the colour makes it another one.
     if (origin_ && (origin_->entry != one->id || origin_->became != one->color)) origin_.reset();
     const auto& from = origin_ ? origin_->color : one->color;
     auto opaque = one->color;

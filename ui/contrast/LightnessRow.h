@@ -3,6 +3,7 @@
 #include "state/ContrastBoard.h"
 #include "ui/Ui.h"
 #include "ui/shared/Subscriptions.h"
+#include "ui/shared/Upkeep.h"
 
 #include <QWidget>
 #include <optional>
@@ -44,7 +45,8 @@ private:
     ContrastBoard& board_;
     const ContrastBoard::Role role_;
     ChannelRow* row_;
-    /// The colour as it was when the drag began, so that the chroma lost on the way comes back.
+    /// The colour as it was before this row moved it, so that the chroma lost on the way comes
+    /// back.
     struct Origin {
         Uuid entry;
         WashColor color;
@@ -58,6 +60,7 @@ private:
     };
     std::optional<MarksOf> marksOf_; ///< what `marks_` were found for
     std::vector<Mark> marks_;
+    Upkeep upkeep_{*this, [this] { sync(); }};
     Subscriptions subscriptions_;
 };
 

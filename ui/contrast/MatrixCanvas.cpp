@@ -2,6 +2,7 @@
 
 #include "state/Models.h"
 #include "state/UpdateGroup.h"
+#include "ui/contrast/ChosenItem.h"
 #include "ui/contrast/CopyFigure.h"
 #include "ui/contrast/PairColours.h"
 #include "ui/shared/Controls.h"
@@ -20,15 +21,15 @@
 namespace tintra {
 namespace {
 
-constexpr int kMargin = 20, kRowHead = 150, kNarrowHead = 48, kHeadChip = 36, kChipHigh = 32;
+constexpr int kMargin = 20, kRowHead = 150, kNarrowHead = 48, kHeadChip = 32, kChipHigh = 32;
+constexpr int kHeadInset = 4, kHeadLine = 14;
 constexpr int kColumnHead = 68, kCell = 76, kCellHigh = 46, kLeastCell = 48, kCellGap = 4;
 
 /// Of marks: AAA, AA, 3:1.
-QFont markFont(const Theme& theme) {
-    auto font = theme.font(TextStyle::caption);
-    font.setPixelSize(theme.scaled(9));
-    font.setWeight(QFont::DemiBold);
-    font.setLetterSpacing(QFont::AbsoluteSpacing, 0.4);
+QFont markFont(const Theme& theme, const QColor& ink) {
+    auto font = theme.font(TextStyle::name, ink);
+    font.setPixelSize(theme.scaled(10));
+    font.setLetterSpacing(QFont::AbsoluteSpacing, 0.3);
     return font;
 }
 
@@ -38,7 +39,7 @@ MatrixCanvas::MatrixCanvas(Ui& ui, QWidget* parent)
     : Canvas(ui.theme, parent), ui_(ui), board_(ui.models.contrast()) {
     containerRole = QAccessible::Table;
     setAccessibleName(worded("Every pair"));
-    const auto again = [this] { sync(); };
+    const auto again = [this] { upkeep_.due(); };
     subscriptions_.add(board_.content(), again);
     subscriptions_.add(board_.measure, again);
     subscriptions_.add(board_.target, again);
@@ -47,7 +48,7 @@ MatrixCanvas::MatrixCanvas(Ui& ui, QWidget* parent)
     subscriptions_.add(board_.matrixRowsAreText, again);
     subscriptions_.add(board_.vision, [this] { update(); });
     subscriptions_.add(ui.theme.version(), again);
-    sync();
+    upkeep_.due();
 }
 
 void MatrixCanvas::sync() {
@@ -180,37 +181,31 @@ void MatrixCanvas::paintHead(QPainter& painter, const CanvasItem& item) const {
         if (words.width() < 24) return;
         auto font = theme().font(TextStyle::control);
         font.setPixelSize(theme().scaled(12));
-        painter.setFont(font);
         painter.setPen(theme().color(Token::ink));
-        painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter,
-                         QFontMetricsF(font).elidedText(item.name, Qt::ElideRight, words.width()));
+        lines_.paint(painter, font, words, Qt::AlignLeft,
+                     lines_.cut(font, item.name, words.width()));
         return;
     }
     const auto font = theme().font(TextStyle::caption);
-    const QFontMetricsF measure(font);
-    painter.setFont(font);
     painter.setPen(theme().color(Token::ink2));
-    // Two lines at most, broken between words.
-    const auto space = item.name.lastIndexOf(u' ');
-    const bool breaks = measure.horizontalAdvance(item.name) > item.rect.width() && space > 0;
-    const auto first = breaks ? item.name.left(space) : item.name;
-    QRectF line(item.rect.left(), chip.bottom() + 4, item.rect.width(), measure.height());
-    for (const auto& words : {first, breaks ? item.name.mid(space + 1) : QString()}) {
-        painter.drawText(line, Qt::AlignHCenter | Qt::AlignVCenter,
-                         measure.elidedText(words, Qt::ElideRight, line.width()));
-        line.translate(0, measure.height());
+    const auto room = item.rect.width() - kHeadInset;
+    QRectF line(item.rect.left(), chip.bottom() + 4, item.rect.width(), theme().scaled(kHeadLine));
+    for (const auto& words : lines_.twoLines(font, item.name, room)) {
+        const auto aside = (line.width() - lines_.width(font, words)) / 2;
+        lines_.paint(painter, font, line.adjusted(aside, 0, 0, 0), Qt::AlignLeft, words);
+        line.translate(0, line.height());
     }
 }
 
 void MatrixCanvas::paintFigure(QPainter& painter, const QRectF& in, const ContrastReading& reading,
                                const QColor& ink, const QColor& sample) const {
-    auto font = theme().font(reading.reachesTarget ? TextStyle::name : TextStyle::body);
-    const auto markFace = markFont(theme());
+    const auto font = theme().font(reading.reachesTarget ? TextStyle::name : TextStyle::body, ink);
+    const auto markFace = markFont(theme(), ink);
     const auto figure = fromUtf8(reading.figure);
     const auto mark = fromUtf8(gradeMark(reading.grade, board_.measure));
     const auto figureWide = figuresWidth(font, figure);
-    const auto markWide = mark.isEmpty() ? 0 : figuresWidth(markFace, mark) + 5;
-    const auto aa = sample.isValid() ? QFontMetricsF(font).horizontalAdvance(worded("Aa")) + 5 : 0;
+    const auto markWide = mark.isEmpty() ? 0 : lines_.width(markFace, mark) + 5;
+    const auto aa = sample.isValid() ? lines_.width(font, worded("Aa")) + 5 : 0;
     const bool stacks = aa + figureWide + markWide > in.width() - 4;
     const auto wide = aa + figureWide + (stacks ? 0 : markWide);
     auto line = in;
@@ -219,20 +214,19 @@ void MatrixCanvas::paintFigure(QPainter& painter, const QRectF& in, const Contra
     painter.setFont(font);
     if (aa > 0) {
         painter.setPen(sample);
-        painter.drawText(QRectF(left, line.top(), aa, line.height()),
-                         Qt::AlignLeft | Qt::AlignVCenter, worded("Aa"));
+        lines_.paint(painter, font, {left, line.top(), aa, line.height()}, Qt::AlignLeft,
+                     worded("Aa"));
         left += aa;
     }
     painter.setPen(ink);
     drawFigures(painter, QRectF(left, line.top(), figureWide + 1, line.height()),
                 Qt::AlignLeft | Qt::AlignVCenter, figure);
-    if (mark.isEmpty()) return;
-    painter.setFont(markFace);
     if (stacks)
-        painter.drawText(in.adjusted(0, in.height() * 0.48, 0, 0), Qt::AlignCenter, mark);
+        line = QRectF(in.center().x() - lines_.width(markFace, mark) / 2,
+                      in.top() + in.height() * 0.48, markWide, in.height() * 0.52);
     else
-        painter.drawText(QRectF(left + figureWide + 5, line.top() + 1, markWide, line.height()),
-                         Qt::AlignLeft | Qt::AlignVCenter, mark);
+        line.translate(left + figureWide + 5 - line.left(), 1);
+    lines_.paint(painter, markFace, line, Qt::AlignLeft, mark);
 }
 
 void MatrixCanvas::paintCell(QPainter& painter, const CanvasItem& item) const {
@@ -269,9 +263,7 @@ void MatrixCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemStat
         paintCell(painter, item);
     else
         paintHead(painter, item);
-    // Also without keyboard: the figure of this cell is the one that is copied.
-    const bool isChosen = hasFocus() && focused() >= 0 && &item == items().data() + focused();
-    if (state.focused || isChosen)
+    if (state.focused || isChosen(*this, item))
         paintFocusRing(painter, theme(), item.rect.adjusted(-1, -1, 1, 1), metrics::kControlRadius);
     else if (state.hovered && item.kind == cell) {
         painter.setPen(QPen(theme().color(Token::edge), 1));
@@ -339,7 +331,14 @@ void MatrixCanvas::openPair(int item) {
 }
 
 void MatrixCanvas::mousePressEvent(QMouseEvent* event) {
-    if (const auto item = itemAt(event->position()); item >= 0) setFocused(item);
+    const auto item = itemAt(event->position());
+    if (item >= 0) setFocused(item);
+    pull_.press(*event, item >= 0 ? target() : std::nullopt);
+}
+
+void MatrixCanvas::mouseMoveEvent(QMouseEvent* event) {
+    Canvas::mouseMoveEvent(event);
+    if (const auto id = pull_.pulled(*event)) dragEntry(ui_, *this, *id);
 }
 
 void MatrixCanvas::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -2,8 +2,11 @@
 
 #include "state/ContrastReadings.h"
 #include "ui/Ui.h"
+#include "ui/contrast/EntryDrag.h"
 #include "ui/shared/Canvas.h"
 #include "ui/shared/Subscriptions.h"
+#include "ui/shared/TextLines.h"
+#include "ui/shared/Upkeep.h"
 
 #include <cstddef>
 #include <functional>
@@ -44,6 +47,7 @@ protected:
     int neighbour(int from, Qt::Key key) const override;
     void focusMoved(int item) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -73,6 +77,9 @@ private:
     ContrastBoard& board_;
     std::vector<QString> names_;            ///< of the colours
     std::vector<ContrastReading> readings_; ///< of the cells
+    mutable TextLines lines_;
+    EntryPull pull_;
+    Upkeep upkeep_{*this, [this] { sync(); }};
     Subscriptions subscriptions_;
 };
 

@@ -39,7 +39,7 @@ void PairCanvas::paintOverlay(QPainter& painter) {
 }
 
 void PairCanvas::dragEnterEvent(QDragEnterEvent* event) {
-    if (isUnderstood(*event->mimeData())) event->acceptProposedAction();
+    if (isForContrast(*event->mimeData())) event->acceptProposedAction();
 }
 
 void PairCanvas::dragMoveEvent(QDragMoveEvent* event) {

@@ -1,5 +1,6 @@
 #include "ui/contrast/ReachCanvas.h"
 
+#include "colour/ContrastLightness.h"
 #include "platform/Number.h"
 #include "state/ContrastSending.h"
 #include "state/Models.h"
@@ -22,10 +23,15 @@ namespace tintra {
 namespace {
 
 constexpr int kRow = 44, kRowGap = 8, kSample = 64, kGap = 12, kInset = 8, kButton = 28;
+constexpr int kArrow = 18;
 constexpr ToastPlace kPlace{ToastWindow::contrast, {}};
 
 QString useTitle() {
     return worded("Use");
+}
+
+QString easedText() {
+    return worded("eased");
 }
 
 QString distanceText(const Contrast::ReachProposal& of) {
@@ -37,7 +43,7 @@ QString distanceText(const Contrast::ReachProposal& of) {
 ReachCanvas::ReachCanvas(Ui& ui, QWidget* parent)
     : Canvas(ui.theme, parent), ui_(ui), board_(ui.models.contrast()) {
     setAccessibleName(worded("Ways to reach the target"));
-    const auto again = [this] { sync(); };
+    const auto again = [this] { upkeep_.due(); };
     subscriptions_.add(board_.content(), again);
     subscriptions_.add(board_.target, again);
     subscriptions_.add(board_.size, again);
@@ -46,7 +52,8 @@ ReachCanvas::ReachCanvas(Ui& ui, QWidget* parent)
     subscriptions_.add(ui.models.preferences().format, again);
     subscriptions_.add(ui.models.preferences().formatOptions, again);
     subscriptions_.add(ui.theme.version(), again);
-    sync();
+    setMinimumHeight(heightNeeded());
+    upkeep_.due();
 }
 
 void ReachCanvas::sync() {
@@ -56,6 +63,7 @@ void ReachCanvas::sync() {
     if (text && ground)
         report_ =
             Contrast::reachReport(text->color, ground->color, board_.target, board_.isLargeText());
+    columns_ = columns();
     setMinimumHeight(heightNeeded());
     relayout();
 }
@@ -77,7 +85,25 @@ QString ReachCanvas::codeOf(Role role) const {
                                                       preferences.formatOptions.value()));
 }
 
-void ReachCanvas::addRow(std::vector<CanvasItem>& items, Role role, const QRectF& in) const {
+ReachCanvas::Columns ReachCanvas::columns() const {
+    Columns all;
+    const auto widen = [this](qreal& column, TextStyle style, const QString& words) {
+        column = std::max(column, figuresWidth(theme().font(style), words) + 1);
+    };
+    for (const auto role : {Role::text, Role::ground}) {
+        const auto* to = of(role);
+        if (!to) continue;
+        widen(all.title, TextStyle::name, shown(to->title));
+        widen(all.code, TextStyle::code, codeOf(role));
+        if (to->eased) widen(all.eased, TextStyle::caption, easedText());
+        widen(all.distance, TextStyle::caption, distanceText(*to));
+        widen(all.ratio, TextStyle::title, fromUtf8(Contrast::ratioText(to->ratio)));
+    }
+    if (all.code > 0) all.code += theme().scaled(kArrow);
+    return all;
+}
+
+CanvasItem ReachCanvas::rowItem(Role role, const QRectF& in) const {
     const auto& to = *of(role);
     CanvasItem item;
     item.rect = in;
@@ -90,36 +116,49 @@ void ReachCanvas::addRow(std::vector<CanvasItem>& items, Role role, const QRectF
     item.description = distanceText(to);
     if (to.eased)
         item.description += QStringLiteral(", ") + worded("eased: chroma gave way to stay in sRGB");
-    auto button = item;
-    items.push_back(std::move(item));
+    return item;
+}
+
+CanvasItem ReachCanvas::useItem(const CanvasItem& row) const {
+    auto button = row;
     const qreal high = theme().scaled(kButton);
     const auto wide =
         std::ceil(QFontMetricsF(theme().font(TextStyle::control)).horizontalAdvance(useTitle())) +
         24;
-    button.rect = {in.right() - kInset - wide, in.center().y() - high / 2, wide, high};
+    button.rect = {row.rect.right() - kInset - wide, row.rect.center().y() - high / 2, wide, high};
     button.kind = use;
     button.role = QAccessible::Button;
     button.description = std::exchange(button.name, useTitle());
-    items.push_back(std::move(button));
+    return button;
 }
 
 std::vector<CanvasItem> ReachCanvas::layoutItems(QSizeF size) const {
     std::vector<CanvasItem> items;
     if (!report_) return items;
-    qreal y = 0;
     const qreal row = theme().scaled(kRow);
-    for (const auto role : {Role::text, Role::ground}) {
-        if (!of(role)) continue;
-        addRow(items, role, {0, y, size.width(), row});
-        y += row + kRowGap;
+    QRectF in(0, 0, size.width(), row);
+    const auto say = [&](std::string_view words) {
+        CanvasItem item;
+        item.rect = in;
+        item.kind = message;
+        item.role = QAccessible::StaticText;
+        item.name = shown(words);
+        items.push_back(std::move(item));
+    };
+    const auto ratio = Contrast::wcagRatio(board_.text()->color, board_.ground()->color);
+    if (Contrast::reaches(ratio, report_->need)) {
+        say(report_->message);
+        return items;
     }
-    if (report_->message.empty()) return items;
-    CanvasItem item;
-    item.rect = {0, y, size.width(), std::max<qreal>(row, 0)};
-    item.kind = message;
-    item.role = QAccessible::StaticText;
-    item.name = shown(report_->message);
-    items.push_back(std::move(item));
+    for (const auto role : {Role::text, Role::ground}) {
+        if (of(role)) {
+            items.push_back(rowItem(role, in));
+            items.push_back(useItem(items.back()));
+        } else {
+            say(Contrast::noReachText(role));
+        }
+        in.translate(0, row + kRowGap);
+    }
     return items;
 }
 
@@ -142,11 +181,11 @@ void ReachCanvas::paintSample(QPainter& painter, Role role, const QRectF& in) co
     painter.setClipRect(sample);
     painter.fillPath(outline, pair.ground);
     painter.restore();
-    painter.setPen(QPen(theme().color(Token::edge), 1));
+    painter.setPen(QPen(theme().color(Token::line), 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawPath(outline);
     painter.drawLine(sample.topRight(), sample.bottomRight());
-    auto font = theme().font(TextStyle::figure);
+    auto font = theme().font(TextStyle::figure, pair.text);
     font.setPixelSize(theme().scaled(18));
     painter.setFont(font);
     painter.setPen(pair.text);
@@ -157,30 +196,40 @@ void ReachCanvas::paintProposal(QPainter& painter, const CanvasItem& item) const
     const auto role = static_cast<Role>(item.index);
     const auto& to = *of(role);
     paintSample(painter, role, item.rect);
-    const QFontMetricsF names(theme().font(TextStyle::name));
     const auto left = item.rect.left() + theme().scaled(kSample) + kGap;
     auto right = items()[static_cast<std::size_t>(find(use, item.index))].rect.left() - kGap;
-    // From the right what matters most; what the title leaves no room for is left out.
-    const auto title = names.horizontalAdvance(item.name) + 1;
-    const auto place = [&](const QString& words, TextStyle style, Token ink, bool always) {
-        const auto font = theme().font(style);
-        const auto wide = figuresWidth(font, words) + 1;
-        if (words.isEmpty() || (!always && right - wide - kGap < left + title)) return;
-        painter.setFont(font);
+    const auto write = [&](const QRectF& in, TextStyle style, Token ink, Qt::Alignment side,
+                           const QString& words) {
+        painter.setFont(theme().font(style));
         painter.setPen(theme().color(ink));
-        drawFigures(painter, QRectF(right - wide, item.rect.top(), wide, item.rect.height()),
-                    Qt::AlignRight | Qt::AlignVCenter, words);
-        right -= wide + kGap;
+        drawFigures(painter, in, side | Qt::AlignVCenter, words);
     };
-    place(fromUtf8(Contrast::ratioText(to.ratio)), TextStyle::title, Token::ink, true);
-    place(distanceText(to), TextStyle::caption, Token::ink3, false);
-    place(to.eased ? worded("eased") : QString(), TextStyle::caption, Token::ink, false);
-    place(QStringLiteral("→ ") + codeOf(role), TextStyle::code, Token::ink2, false);
-    painter.setFont(theme().font(TextStyle::name));
+    // From the right what matters most; what the titles leave no room for is left out.
+    const auto column = [&](qreal wide, bool always = false) -> std::optional<QRectF> {
+        if (wide <= 0 || (!always && right - wide - kGap < left + columns_.title))
+            return std::nullopt;
+        const QRectF in(right - wide, item.rect.top(), wide, item.rect.height());
+        right -= wide + kGap;
+        return in;
+    };
+    if (const auto in = column(columns_.ratio, true))
+        write(*in, TextStyle::title, Token::ink, Qt::AlignRight,
+              fromUtf8(Contrast::ratioText(to.ratio)));
+    if (const auto in = column(columns_.distance))
+        write(*in, TextStyle::caption, Token::ink3, Qt::AlignRight, distanceText(to));
+    if (const auto in = column(columns_.eased); in && to.eased)
+        write(*in, TextStyle::caption, Token::ink, Qt::AlignRight, easedText());
+    if (const auto in = column(columns_.code)) {
+        write(*in, TextStyle::body, Token::ink2, Qt::AlignLeft, QStringLiteral("→"));
+        write(in->adjusted(theme().scaled(kArrow), 0, 0, 0), TextStyle::code, Token::ink,
+              Qt::AlignLeft, codeOf(role));
+    }
+    const auto font = theme().font(TextStyle::name);
+    painter.setFont(font);
     painter.setPen(theme().color(Token::ink));
     painter.drawText(QRectF(left, item.rect.top(), right - left, item.rect.height()),
                      Qt::AlignLeft | Qt::AlignVCenter,
-                     names.elidedText(item.name, Qt::ElideRight, right - left + 1));
+                     QFontMetricsF(font).elidedText(item.name, Qt::ElideRight, right - left + 1));
 }
 
 void ReachCanvas::paintUse(QPainter& painter, const CanvasItem& item, ItemState state) const {
@@ -206,7 +255,7 @@ void ReachCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemState
     default:
         painter.setFont(theme().font(TextStyle::body));
         painter.setPen(theme().color(Token::ink2));
-        painter.drawText(item.rect, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, item.name);
+        painter.drawText(item.rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, item.name);
     }
     if (state.focused)
         paintFocusRing(painter, theme(), item.rect.adjusted(1, 1, -1, -1), metrics::kControlRadius);

@@ -5,13 +5,14 @@
 #include "ui/Ui.h"
 #include "ui/shared/Canvas.h"
 #include "ui/shared/Subscriptions.h"
+#include "ui/shared/Upkeep.h"
 
 #include <optional>
 
 namespace tintra {
 
-/// How the pair can be taken to the target by moving one of its colours: a row each, with a button
-/// that does it, or the sentence that says why not.
+/// How the pair can be taken to the target by moving one of its colours: for each of them a row
+/// with a button that does it, or the sentence that says why not.
 class ReachCanvas final : public Canvas {
 public:
     enum Kind { proposal, use, message };
@@ -31,10 +32,17 @@ protected:
 private:
     using Role = ContrastBoard::Role;
 
+    /// How wide the parts of a row are, px, over both rows: nothing for what is in neither.
+    struct Columns {
+        qreal title = 0, code = 0, eased = 0, distance = 0, ratio = 0;
+    };
+
     void sync();
+    Columns columns() const;
     const Contrast::ReachProposal* of(Role role) const;
     QString codeOf(Role role) const;
-    void addRow(std::vector<CanvasItem>& items, Role role, const QRectF& in) const;
+    CanvasItem rowItem(Role role, const QRectF& in) const;
+    CanvasItem useItem(const CanvasItem& row) const;
     void paintSample(QPainter& painter, Role role, const QRectF& in) const;
     void paintProposal(QPainter& painter, const CanvasItem& item) const;
     void paintUse(QPainter& painter, const CanvasItem& item, ItemState state) const;
@@ -43,7 +51,9 @@ private:
     Ui& ui_;
     ContrastBoard& board_;
     std::optional<Contrast::ReachReport> report_; ///< none while the pair is not complete
+    Columns columns_;
     int pressed_ = -1;
+    Upkeep upkeep_{*this, [this] { sync(); }};
     Subscriptions subscriptions_;
 };
 

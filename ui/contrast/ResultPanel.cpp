@@ -13,6 +13,7 @@ namespace tintra {
 namespace {
 
 constexpr int kTop = 16, kSide = 20, kGap = 28, kNarrowGap = 16, kVerdict = 312, kLeast = 240;
+constexpr int kReachGap = 4;
 
 } // namespace
 
@@ -30,7 +31,7 @@ ResultPanel::ResultPanel(Ui& ui, QWidget* parent)
 }
 
 QSize ResultPanel::sizeHint() const {
-    const auto moves = 2 * text_->sizeHint().height() + reach_->heightNeeded();
+    const auto moves = 2 * text_->sizeHint().height() + kReachGap + reach_->heightNeeded();
     return {0, std::max(verdict_->heightNeeded(), moves) + 2 * kTop};
 }
 
@@ -45,7 +46,7 @@ void ResultPanel::layOut() {
     verdict_->setGeometry(kSide, kTop, verdict, height() - 2 * kTop);
     text_->setGeometry(left, kTop, wide, row);
     ground_->setGeometry(left, kTop + row, wide, row);
-    reach_->setGeometry(left, kTop + 2 * row, wide, reach_->heightNeeded());
+    reach_->setGeometry(left, kTop + 2 * row + kReachGap, wide, reach_->heightNeeded());
 }
 
 void ResultPanel::resizeEvent(QResizeEvent*) {

@@ -9,7 +9,6 @@
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
-#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -21,7 +20,8 @@
 namespace tintra {
 namespace {
 
-constexpr int kInset = 8, kGap = 8, kSizeField = 76, kWidestFace = 180;
+constexpr int kInset = 8, kGap = 8, kSizeField = 76, kWidestFace = 180, kIcon = 20;
+constexpr int kNoteRoom = 280; ///< for two lines of the note
 
 struct WeightRow {
     int weight;
@@ -88,7 +88,8 @@ void SpecimenBar::sync() {
     weight_->setText(QString::number(board.weight));
     weight_->setAccessibleName(worded("Weight: %1").arg(weight_->text()));
     swap_->setFont(theme.font(TextStyle::control));
-    swap_->setIcon(theme.icon("swap", 20, theme.color(Token::ink), devicePixelRatioF()));
+    swap_->setIcon(theme.icon("swap", kIcon, theme.color(Token::ink), devicePixelRatioF()));
+    swap_->setIconSize(QSize(kIcon, kIcon));
     note_ = specimenFace(board, theme).note;
     setAccessibleDescription(note_);
     updateGeometry();
@@ -106,16 +107,15 @@ void SpecimenBar::layOut() {
     place(*face_, std::min(face_->sizeHint().width(), theme.scaled(kWidestFace)));
     place(*size_, theme.scaled(kSizeField));
     place(*weight_, weight_->sizeHint().width());
-    // Where there is little room the swap is its sign alone, and the note goes before it.
+    // Where there is little room the swap is its sign alone: the note says more than its words.
     const auto words = worded("Swap the text and the ground");
     swap_->setText(words);
-    swap_->setToolTip({});
+    swap_->setAccessibleName(words);
+    swap_->setToolTip(words + QStringLiteral(" (X)"));
     auto swap = swap_->sizeHint().width();
-    if (left + swap + kInset > width()) {
+    if (left + theme.scaled(kNoteRoom) + kGap + swap + kInset > width()) {
         swap_->setText({});
-        swap_->setAccessibleName(words);
-        swap_->setToolTip(words + QStringLiteral(" (X)"));
-        swap = theme.scaled(36);
+        swap = swap_->sizeHint().width();
     }
     // A button keeps room for its ring around what is painted of it.
     const auto ring = StyleParts::kRingRoom.right();
@@ -138,11 +138,15 @@ void SpecimenBar::paintEvent(QPaintEvent*) {
     painter.setBrush(theme.color(Token::panel));
     painter.drawRoundedRect(rect(), metrics::kGroupRadius, metrics::kGroupRadius);
     const auto font = theme.font(TextStyle::caption);
-    painter.setFont(font);
     painter.setPen(theme.color(Token::ink3));
-    if (notePlace_.width() > theme.scaled(60))
-        painter.drawText(notePlace_, Qt::AlignLeft | Qt::AlignVCenter,
-                         QFontMetrics(font).elidedText(note_, Qt::ElideRight, notePlace_.width()));
+    const auto lines = lines_.twoLines(font, note_, notePlace_.width());
+    const qreal line = theme.lineHeight(TextStyle::caption);
+    const auto count = static_cast<qreal>(lines.size());
+    QRectF in(notePlace_.left(), (height() - count * line) / 2, notePlace_.width(), line);
+    for (const auto& words : lines) {
+        lines_.paint(painter, font, in, Qt::AlignLeft, words);
+        in.translate(0, line);
+    }
 }
 
 void SpecimenBar::openFaces() {

@@ -2,6 +2,7 @@
 
 #include "ui/Ui.h"
 #include "ui/shared/Subscriptions.h"
+#include "ui/shared/TextLines.h"
 
 #include <QWidget>
 
@@ -40,6 +41,7 @@ private:
     QPushButton* swap_;
     QString note_;
     QRect notePlace_;
+    TextLines lines_;
     Subscriptions subscriptions_;
 };
 

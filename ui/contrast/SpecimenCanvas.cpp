@@ -4,6 +4,7 @@
 #include "ui/shared/Controls.h"
 #include "ui/shared/Text.h"
 
+#include <QFontInfo>
 #include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -18,6 +19,7 @@ namespace tintra {
 namespace {
 
 constexpr int kInset = 32, kNarrowInset = 16, kHeading = 36, kHeadingLine = 44, kGap = 16;
+constexpr int kHeadingRise = 5, kHeadingGap = 11, kFrame = 2;
 constexpr int kButton = 36, kButtonPadding = 16, kButtonGap = 12, kIcon = 20;
 constexpr qreal kLine = 1.6;   ///< line height of the words, of their size
 constexpr qreal kMeasure = 35; ///< the longest line, of their size
@@ -33,8 +35,11 @@ qreal longestLine(const QFont& font) {
     return std::max(kMeasure * font.pixelSize(), kLeast);
 }
 
+/// In the face of the words; the system's own has a cut for headings.
 QFont headingFont(const Theme& theme, const QFont& words) {
     auto font = words;
+    if (words.family() == QFontInfo(theme.font(TextStyle::body)).family())
+        font.setFamilies(theme.font(TextStyle::quotation).families());
     font.setPixelSize(theme.scaled(kHeading));
     font.setWeight(QFont::Bold);
     return font;
@@ -45,7 +50,7 @@ QFont headingFont(const Theme& theme, const QFont& words) {
 SpecimenCanvas::SpecimenCanvas(Ui& ui, QWidget* parent) : PairCanvas(ui, parent) {
     setAccessibleName(worded("Specimen"));
     setCursor(Qt::ArrowCursor);
-    const auto again = [this] { sync(); };
+    const auto again = [this] { upkeep_.due(); };
     const auto face = [this] { syncFace(); };
     auto& of = board();
     subscriptions().add(of.content(), again);
@@ -65,7 +70,7 @@ SpecimenCanvas::~SpecimenCanvas() = default;
 
 void SpecimenCanvas::syncFace() {
     face_ = specimenFace(board(), theme());
-    sync();
+    upkeep_.due();
 }
 
 void SpecimenCanvas::sync() {
@@ -85,6 +90,9 @@ void SpecimenCanvas::sync() {
 void SpecimenCanvas::layOutWords(qreal width) const {
     auto text = fromUtf8(board().specimen.value()).left(kMostCharacters);
     text.replace(u'\n', QChar::LineSeparator);
+    // Colours come and go many times a second; the words seldom.
+    if (layoutWidth_ == width && layout_.text() == text && layout_.font() == face_.font) return;
+    layoutWidth_ = width;
     layout_.setText(text);
     layout_.setFont(face_.font);
     layout_.beginLayout();
@@ -116,11 +124,12 @@ std::vector<CanvasItem> SpecimenCanvas::layoutItems(QSizeF size) const {
     const auto line = lineStep(face_.font);
     const bool hasHeading = size.height() >= headingHigh + line + 2 * inset;
     const bool hasParts = size.height() >= headingHigh + line + button + 2 * inset + kGap;
-    qreal top = hasHeading ? inset - 4 : 8, bottom = size.height() - (hasParts ? inset - 8 : 8);
+    qreal top = hasHeading ? inset - kHeadingRise : 8,
+          bottom = size.height() - (hasParts ? inset - 8 : 8);
     if (hasHeading) {
         add(heading, {qreal(inset), top, wide, qreal(headingHigh)}, QAccessible::StaticText,
             heading_);
-        top += headingHigh + kGap / 2.0;
+        top += headingHigh + kHeadingGap;
     }
     if (hasParts) bottom -= button + kGap;
     layOutWords(std::min(wide, longestLine(face_.font)));
@@ -133,10 +142,11 @@ std::vector<CanvasItem> SpecimenCanvas::layoutItems(QSizeF size) const {
     if (!hasParts) return items;
     const auto y = bottom + kGap;
     qreal left = inset;
-    const QFontMetricsF measure(theme().font(TextStyle::name));
+    const QFontMetricsF measure(theme().font(TextStyle::name, Qt::black));
     for (const auto& [kind, title] :
          {std::pair(filledButton, worded("Continue")), std::pair(plainButton, worded("Not now"))}) {
-        const auto width = std::ceil(measure.horizontalAdvance(title)) + 2 * kButtonPadding;
+        const auto padding = kButtonPadding + (kind == plainButton ? kFrame : 0);
+        const auto width = std::ceil(measure.horizontalAdvance(title)) + 2 * padding;
         add(kind, {left, y, width, qreal(button)}, QAccessible::NoRole, title);
         left += width + kButtonGap;
     }
@@ -149,6 +159,7 @@ std::vector<CanvasItem> SpecimenCanvas::layoutItems(QSizeF size) const {
 void SpecimenCanvas::paintGround(QPainter& painter, const QRect&) {
     const QRectF all(rect());
     painter.fillRect(all, theme().color(Token::ground));
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colours_.ground);
     painter.drawRoundedRect(all, metrics::kGroupRadius, metrics::kGroupRadius);
@@ -165,12 +176,13 @@ void SpecimenCanvas::paintHeading(QPainter& painter, const QRectF& in, const QSt
 
 void SpecimenCanvas::paintButton(QPainter& painter, const CanvasItem& item) const {
     const bool filled = item.kind == filledButton;
-    painter.setPen(filled ? QPen(Qt::NoPen) : QPen(colours_.text, 2));
+    painter.setPen(filled ? QPen(Qt::NoPen) : QPen(colours_.text, kFrame));
     painter.setBrush(filled ? QBrush(colours_.text) : QBrush(Qt::NoBrush));
     painter.drawRoundedRect(filled ? item.rect : item.rect.adjusted(1, 1, -1, -1),
                             metrics::kControlRadius, metrics::kControlRadius);
-    painter.setFont(theme().font(TextStyle::name));
-    painter.setPen(filled ? colours_.ground : colours_.text);
+    const auto& ink = filled ? colours_.ground : colours_.text;
+    painter.setFont(theme().font(TextStyle::name, ink));
+    painter.setPen(ink);
     painter.drawText(item.rect, Qt::AlignCenter, item.name);
 }
 

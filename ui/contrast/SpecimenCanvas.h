@@ -3,6 +3,7 @@
 #include "ui/contrast/PairCanvas.h"
 #include "ui/contrast/PairColours.h"
 #include "ui/contrast/SpecimenFace.h"
+#include "ui/shared/Upkeep.h"
 
 #include <QPointer>
 #include <QTextLayout>
@@ -44,10 +45,12 @@ private:
     void paintHeading(QPainter& painter, const QRectF& in, const QString& text) const;
     void paintButton(QPainter& painter, const CanvasItem& item) const;
 
+    Upkeep upkeep_{*this, [this] { sync(); }};
     PairColours colours_;
     QString heading_;
     SpecimenFace face_;
     mutable QTextLayout layout_; ///< of the words, as the items were laid out last
+    mutable qreal layoutWidth_ = 0;
     QPointer<QTextEdit> editor_;
     std::string before_; ///< the words before they were edited
 };

@@ -5,6 +5,7 @@
 #include "ui/contrast/CopyFigure.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Figures.h"
+#include "ui/shared/Lines.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
@@ -29,14 +30,15 @@ QString wordsOf(const ContrastBoard& board, Contrast::Target target) {
 VerdictCanvas::VerdictCanvas(Ui& ui, QWidget* parent)
     : Canvas(ui.theme, parent), ui_(ui), board_(ui.models.contrast()) {
     setAccessibleName(worded("Reading of the pair"));
-    const auto again = [this] { sync(); };
+    const auto again = [this] { upkeep_.due(); };
     subscriptions_.add(board_.content(), again);
     subscriptions_.add(board_.measure, again);
     subscriptions_.add(board_.target, again);
     subscriptions_.add(board_.size, again);
     subscriptions_.add(board_.weight, again);
     subscriptions_.add(ui.theme.version(), again);
-    sync();
+    setMinimumHeight(heightNeeded());
+    upkeep_.due();
 }
 
 void VerdictCanvas::sync() {
@@ -112,12 +114,17 @@ void VerdictCanvas::paintGround(QPainter& painter, const QRect& dirty) {
     painter.fillRect(dirty, theme().color(Token::panel));
 }
 
+qreal VerdictCanvas::baseLine(const QRectF& in) const {
+    const QFontMetricsF big(theme().font(TextStyle::bigFigure));
+    return in.top() + (in.height() + big.capHeight()) / 2;
+}
+
 void VerdictCanvas::paintFigure(QPainter& painter, const QRectF& in) const {
     const bool isWcag = board_.measure.value() == ContrastBoard::Measure::wcag;
     const auto big = theme().font(TextStyle::bigFigure);
     auto small = theme().font(TextStyle::figure);
     small.setWeight(QFont::Normal);
-    const auto base = in.top() + (in.height() + QFontMetricsF(big).capHeight()) / 2;
+    const auto base = baseLine(in);
     auto left = in.left();
     const auto aside = [&](const QString& words) {
         painter.setFont(small);
@@ -140,9 +147,9 @@ void VerdictCanvas::paintLevel(QPainter& painter, const CanvasItem& item) const 
     const auto& [words, need, passes] = levels_[item.index];
     const auto ink = theme().color(Token::ink);
     const QRectF mark(item.rect.left(), item.rect.center().y() - kMark / 2.0, kMark, kMark);
-    painter.setPen(QPen(ink, 1.2));
+    painter.setPen(QPen(passes ? ink : theme().color(Token::ink2), 1));
     painter.setBrush(passes ? QBrush(ink) : QBrush(Qt::NoBrush));
-    painter.drawEllipse(mark.adjusted(0.6, 0.6, -0.6, -0.6));
+    painter.drawEllipse(mark.adjusted(0.5, 0.5, -0.5, -0.5));
     painter.setPen(QPen(theme().color(passes ? Token::panel : Token::ink), 1.5, Qt::SolidLine,
                         Qt::RoundCap, Qt::RoundJoin));
     const auto middle = mark.center();
@@ -174,7 +181,19 @@ void VerdictCanvas::paintLevel(QPainter& painter, const CanvasItem& item) const 
     write(place, Qt::AlignLeft, TextStyle::body, Token::ink, words);
 }
 
+void VerdictCanvas::paintVerdict(QPainter& painter, const QRectF& in) const {
+    const auto font = theme().font(TextStyle::caption);
+    painter.setFont(font);
+    painter.setPen(theme().color(Token::ink3));
+    QRectF line(in.left(), in.top(), in.width(), theme().lineHeight(TextStyle::caption));
+    for (const auto& words : linesOf(verdict_, font, in.width())) {
+        painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, words);
+        line.translate(0, line.height());
+    }
+}
+
 void VerdictCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemState state) {
+    auto in = item.rect;
     switch (item.kind) {
     case figure:
         paintFigure(painter, item.rect);
@@ -182,15 +201,14 @@ void VerdictCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemSta
     case otherMeasure:
         painter.setFont(theme().font(TextStyle::body));
         painter.setPen(theme().color(Token::ink2));
-        drawFigures(painter, item.rect, Qt::AlignRight | Qt::AlignBottom, other_);
+        in.setBottom(baseLine(in) + QFontMetricsF(painter.font()).descent());
+        drawFigures(painter, in, Qt::AlignRight | Qt::AlignBottom, other_);
         break;
     case level:
         paintLevel(painter, item);
         break;
     default:
-        painter.setFont(theme().font(TextStyle::caption));
-        painter.setPen(theme().color(Token::ink2));
-        painter.drawText(item.rect, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, verdict_);
+        paintVerdict(painter, item.rect);
     }
     if (state.focused) paintFocusRing(painter, theme(), item.rect.adjusted(1, 1, -1, -1), 4);
 }

@@ -4,6 +4,7 @@
 #include "ui/Ui.h"
 #include "ui/shared/Canvas.h"
 #include "ui/shared/Subscriptions.h"
+#include "ui/shared/Upkeep.h"
 
 #include <array>
 
@@ -32,6 +33,9 @@ private:
     void sync();
     void paintFigure(QPainter& painter, const QRectF& in) const;
     void paintLevel(QPainter& painter, const CanvasItem& item) const;
+    void paintVerdict(QPainter& painter, const QRectF& in) const;
+    /// Where the figures stand.
+    qreal baseLine(const QRectF& in) const;
 
     Ui& ui_;
     ContrastBoard& board_;
@@ -42,6 +46,7 @@ private:
     ContrastReading reading_; ///< by the measure that is shown
     QString names_, other_, verdict_;
     std::array<Level, 3> levels_;
+    Upkeep upkeep_{*this, [this] { sync(); }};
     Subscriptions subscriptions_;
 };
 

@@ -8,6 +8,7 @@
 #include "ui/picture/PicturePane.h"
 #include "ui/picture/PictureSplit.h"
 #include "ui/shared/CanvasScroll.h"
+#include "ui/shared/DropRing.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"
 
@@ -27,26 +28,6 @@ void setShown(QWidget& panel, bool shows, QWidget& then) {
         then.setFocus(Qt::OtherFocusReason);
     panel.setVisible(shows);
 }
-
-/// Shows where a drop would go that goes to the window as a whole.
-class DropRing final : public QWidget {
-public:
-    DropRing(const Theme& theme, QWidget* parent) : QWidget(parent), theme_(theme) {
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-        hide();
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        constexpr qreal kRing = 3;
-        QPainter painter(this);
-        painter.setPen(QPen(theme_.color(Token::ink), kRing));
-        painter.drawRect(QRectF(rect()).adjusted(kRing / 2, kRing / 2, -kRing / 2, -kRing / 2));
-    }
-
-private:
-    const Theme& theme_;
-};
 
 } // namespace
 
@@ -93,10 +74,7 @@ void PaletteBody::subscribe() {
     });
     subscriptions_.add(ui_.models.preferences().pictureShare, again);
     subscriptions_.add(ui_.theme.version(), again);
-    subscriptions_.add(state_.fileIsOver, [this] {
-        ring_->setVisible(state_.fileIsOver);
-        ring_->raise();
-    });
+    subscriptions_.add(state_.fileIsOver, [this] { ring_->setShown(state_.fileIsOver); });
 }
 
 Canvas* PaletteBody::main() const {

@@ -14,6 +14,7 @@ namespace tintra {
 
 class BandsCanvas;
 class CanvasScroll;
+class DropRing;
 class EditorPanel;
 class EmptyState;
 class PaneDivider;
@@ -61,7 +62,7 @@ private:
     BandsCanvas* bands_;
     EmptyState* empty_;
     EditorPanel* editor_;
-    QWidget* ring_; ///< round all of it while something is dragged over it
+    DropRing* ring_; ///< round all of it while something is dragged over it
     Subscriptions subscriptions_;
 };
 

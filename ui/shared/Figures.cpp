@@ -1,16 +1,31 @@
 #include "ui/shared/Figures.h"
 
+#include "ui/shared/TextLines.h"
+
 #include <QFontMetricsF>
+#include <QHash>
 #include <algorithm>
 
 namespace tintra {
 namespace {
 
-qreal widestDigit(const QFontMetricsF& metrics) {
+/// Few pieces make all figures. They stay: at the program's exit what fonts are made of is gone
+/// before them.
+TextLines& pieces() {
+    static auto* const lines = new TextLines;
+    return *lines;
+}
+
+qreal widestDigit(const QFont& font) {
+    static QHash<QFont, qreal> found;
+    if (const auto known = found.constFind(font); known != found.constEnd()) return *known;
+    const QFontMetricsF metrics(font);
     qreal widest = 0;
     for (char digit = '0'; digit <= '9'; ++digit)
         widest = std::max(widest, metrics.horizontalAdvance(QLatin1Char(digit)));
-    return widest;
+    constexpr qsizetype kMost = 256;
+    if (found.size() >= kMost) found.clear();
+    return *found.insert(font, widest);
 }
 
 bool isDigit(QChar character) {
@@ -19,8 +34,8 @@ bool isDigit(QChar character) {
 
 /// Calls `piece` with each digit alone and each run of other characters, and the width each takes.
 template <class Piece>
-void forPieces(const QFontMetricsF& metrics, const QString& text, const Piece& piece) {
-    const auto digitWidth = widestDigit(metrics);
+void forPieces(const QFont& font, const QString& text, const Piece& piece) {
+    const auto digitWidth = widestDigit(font);
     for (qsizetype at = 0; at < text.size();) {
         auto end = at + 1;
         if (isDigit(text[at])) {
@@ -29,7 +44,7 @@ void forPieces(const QFontMetricsF& metrics, const QString& text, const Piece& p
             while (end < text.size() && !isDigit(text[end]))
                 ++end;
             const auto run = text.mid(at, end - at);
-            piece(run, metrics.horizontalAdvance(run));
+            piece(run, pieces().width(font, run));
         }
         at = end;
     }
@@ -39,25 +54,26 @@ void forPieces(const QFontMetricsF& metrics, const QString& text, const Piece& p
 
 qreal figuresWidth(const QFont& font, const QString& text) {
     qreal width = 0;
-    forPieces(QFontMetricsF(font), text, [&](const QString&, qreal piece) { width += piece; });
+    forPieces(font, text, [&](const QString&, qreal piece) { width += piece; });
     return width;
 }
 
 void drawFigures(QPainter& painter, const QRectF& in, Qt::Alignment alignment,
                  const QString& text) {
-    const QFontMetricsF metrics(painter.font());
-    const auto width = figuresWidth(painter.font(), text);
-    auto x = in.left();
-    if (alignment & Qt::AlignRight) x = in.right() - width;
-    if (alignment & Qt::AlignHCenter) x = in.center().x() - width / 2;
-    auto baseline = in.top() + metrics.ascent();
-    if (alignment & Qt::AlignBottom) baseline = in.bottom() - metrics.descent();
-    if (alignment & Qt::AlignVCenter)
-        baseline = in.center().y() + (metrics.ascent() - metrics.descent()) / 2;
-    forPieces(metrics, text, [&](const QString& piece, qreal taken) {
-        const auto own = metrics.horizontalAdvance(piece);
-        painter.drawText(QPointF(x + (taken - own) / 2, baseline), piece);
-        x += taken;
+    const auto font = painter.font();
+    const auto width = figuresWidth(font, text);
+    auto place = in;
+    if (alignment & Qt::AlignRight) place.setLeft(in.right() - width);
+    if (alignment & Qt::AlignHCenter) place.setLeft(in.center().x() - width / 2);
+    const auto high = QFontMetricsF(font).height();
+    if (alignment & Qt::AlignBottom)
+        place.setTop(in.bottom() - high);
+    else if (!(alignment & Qt::AlignVCenter))
+        place.setBottom(in.top() + high);
+    forPieces(font, text, [&](const QString& piece, qreal taken) {
+        const auto own = pieces().width(font, piece);
+        pieces().paint(painter, font, place.translated((taken - own) / 2, 0), Qt::AlignLeft, piece);
+        place.translate(taken, 0);
     });
 }
 
