@@ -72,7 +72,7 @@ void BenchWindow::connectCanvas() {
     canvas_->reveal = [this](const QRect& what) { scroll_->reveal(what); };
     canvas_->typeOrPaste = [this] { showPasteSheet(); };
     canvas_->adjustMix = [this] { adjustMix(); };
-    editor_->left = [this] { canvas_->setFocus(Qt::OtherFocusReason); };
+    editor_->done = [this] { canvas_->setFocus(Qt::OtherFocusReason); };
     canvas_->contextMenu = [this](QPoint at, bool onItem) {
         popUp(at, [this, onItem](QMenu& menu) { fillBenchMenu(menu, onItem, context()); });
     };

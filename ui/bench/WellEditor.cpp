@@ -196,7 +196,7 @@ void WellEditor::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape) return QWidget::keyPressEvent(event);
     for (auto* row : rows_)
         row->dropTyped();
-    if (left) left();
+    if (done) done();
 }
 
 void WellEditor::paintEvent(QPaintEvent*) {

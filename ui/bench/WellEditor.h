@@ -31,7 +31,7 @@ public:
     void sync();
     void focusRatio();
     /// Is told that the user is done with it: Esc was pressed.
-    std::function<void()> left;
+    std::function<void()> done;
 
     QSize sizeHint() const override;
 

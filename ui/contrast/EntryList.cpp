@@ -54,16 +54,13 @@ EntryList::EntryList(Ui& ui, QWidget* parent)
         relayout();
     });
     setMinimumHeight(heightNeeded());
+    changed = [this] { followEntry(); };
 }
 
 EntryList::~EntryList() = default;
 
 std::optional<Uuid> EntryList::target() const {
-    const auto at = focused();
-    if (at < 0 || items()[static_cast<std::size_t>(at)].kind != entry) return std::nullopt;
-    const auto index = items()[static_cast<std::size_t>(at)].index;
-    if (index >= board_.entries().size()) return std::nullopt;
-    return board_.entries()[index].id;
+    return entry_ && board_.entry(*entry_) ? entry_ : std::nullopt;
 }
 
 int EntryList::heightNeeded() const {

@@ -80,6 +80,7 @@ private:
     void paintRoleButtons(QPainter& painter, const CanvasItem& row) const;
     void paintAddRow(QPainter& painter, const CanvasItem& row, bool hovered) const;
     void startDrag(std::size_t at);
+    void followEntry();
     std::size_t insertionAt(QPointF place) const;
     QRectF insertionBar() const;
 
@@ -91,6 +92,7 @@ private:
     std::optional<std::size_t> insertion_; ///< where an entry would move to
     bool isOver_ = false;                  ///< something that can be taken is dragged over it
     bool isMoving_ = false;                ///< that is an entry of the list
+    std::optional<Uuid> entry_;            ///< the one with the focus, wherever it stands
     QPointer<PlacedField> field_;
     Subscriptions subscriptions_;
 };

@@ -27,7 +27,23 @@ const DragOfContrastEntry* entryOf(const Drag& drag) {
 } // namespace
 
 void EntryList::focusMoved(int item) {
-    if (item >= 0 && reveal) reveal(items()[static_cast<std::size_t>(item)].rect.toAlignedRect());
+    entry_.reset();
+    if (item < 0) return;
+    const auto& to = items()[static_cast<std::size_t>(item)];
+    if (to.kind == entry && to.index < board_.entries().size())
+        entry_ = board_.entries()[to.index].id;
+    if (reveal) reveal(to.rect.toAlignedRect());
+}
+
+/// The focus stays with its colour when the order changes, and in its place when that goes.
+void EntryList::followEntry() {
+    const auto& entries = board_.entries();
+    const auto found =
+        std::ranges::find(entries, entry_, [](const Entry& one) { return std::optional(one.id); });
+    if (found == entries.end())
+        focusMoved(focused());
+    else
+        setFocused(find(entry, static_cast<std::size_t>(found - entries.begin())));
 }
 
 int EntryList::neighbour(int from, Qt::Key key) const {

@@ -263,7 +263,10 @@ void SpecimenCanvas::endEdit(bool keep) {
     // Without words there is nothing to look at.
     const auto left = fromUtf8(board().specimen.value());
     if (left.trimmed().isEmpty()) board().specimen = std::string(ContrastBoard::kDefaultSpecimen);
-    if (hadKeyboard) setFocus(Qt::OtherFocusReason);
+    if (hadKeyboard) {
+        setFocused(find(words, 0));
+        setFocus(Qt::OtherFocusReason);
+    }
     update();
 }
 

@@ -70,6 +70,8 @@ void NoticeBar::present(const QString& text, double seconds, std::optional<Toast
     seconds_ = QAccessible::isActive() ? std::max(seconds, kRead) : seconds;
     action_ = std::move(action);
     setAccessibleName(text_);
+    // What a press does.
+    setAccessibleDescription(action_ ? shown(action_->title) : QString());
     setCursor(action_ ? Qt::PointingHandCursor : Qt::ArrowCursor);
     place();
     const bool replaces = isVisible();

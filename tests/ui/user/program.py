@@ -68,7 +68,11 @@ class Program:
             node.name.startswith(title) for node in self.windows()))
 
     def sees(self, role=None, name=None):
-        return self.everything.find(role, name)
+        """The first such thing, once it is shown; a person looks at the front window first."""
+        def found():
+            windows = sorted(self.windows(), key=lambda window: "active" not in window.states)
+            return next((seen for window in windows for seen in window.all(role, name)[:1]), None)
+        return until(lambda: f"{role} “{name}”; shown are:\n{self.everything.picture()}", found)
 
     def misses(self, role=None, name=None):
         until(f"that {role} “{name}” goes", lambda: not self.everything.all(role, name))
@@ -77,7 +81,8 @@ class Program:
         return self.sees("alert message", lambda name: text in name)
 
     def names(self, role):
-        return [node.name for node in self.everything.all(role)]
+        return [name for _, _, its_role, name in self.everything.shown("role", "name")
+                if its_role == role]
 
     def sees_names(self, role, names):
         until(lambda: f"{names}, of role {role}; the last was {self.names(role)}",
@@ -90,8 +95,8 @@ class Program:
                           for node in self.focus()))
 
     def focus(self):
-        return [node for root in [self.everything, *self.live_popups()] for node in root.shown()
-                if "focused" in node.states]
+        return [node for root in [self.everything, *self.live_popups()]
+                for _, node, states in root.shown("states") if "focused" in states]
 
     def titles(self):
         """The titles that the window manager shows."""

@@ -82,6 +82,12 @@ class User:
         until(f"a window “{title}” to go to", lambda: any(
             name.startswith(title) for name in self.tintra.titles()))
         self.of_window(title, "windowactivate")
+        return self.has_in_front(title)
+
+    def has_in_front(self, title):
+        """The window has the keyboard, as the program and as the display sees it."""
+        until(f"the keyboard in “{title}”", lambda: self.desktop.output(
+            "xdotool", "getwindowfocus", "getwindowname", check=False).startswith(title))
         return self.tintra.sees_active(title)
 
     def puts(self, title, x, y, width, height):
@@ -104,9 +110,9 @@ class User:
             if way is not by_menu:
                 self.keys("ctrl+w")
                 self.tintra.misses_window(f"{title} — Tintra")
-                self.tintra.sees_active(front)
+                self.has_in_front(front)
             way()
-            self.tintra.sees_active(f"{title} — Tintra")
+            self.has_in_front(f"{title} — Tintra")
 
     def starts_again(self, *answers):
         """Quits, with an answer to every question, and starts again. Every window is as it was."""
