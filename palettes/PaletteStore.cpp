@@ -58,6 +58,7 @@ PaletteStore::PaletteStore(PaletteSurroundings surroundings)
                                           surroundings_.folderWatch)),
       fileWork_(surroundings_.mainLoop, surroundings_.background) {
     list_->start();
+    findInstallTargets();
 }
 
 PaletteStore::~PaletteStore() = default;

@@ -125,7 +125,8 @@ public:
 
     /// Writes a colour list, and a GIMP palette beside it for the programs that read those.
     void save(Content content, std::string_view as, Clash clash, SaveDone then);
-    /// The folders of drawing programs that existed when folders were last listed.
+    /// The folders of drawing programs that existed when they were last looked for: at the start
+    /// and with every rescan.
     const std::vector<InstallTarget>& installTargets() const { return installTargets_; }
     void install(Content content, std::string_view as, const InstallTarget& into, Clash clash,
                  SaveDone then);

@@ -406,6 +406,9 @@ private:
     void attach(PaletteAttachment to);
     /// The palette, as it was at that version, is kept in this file.
     void keep(PaletteAttachment in, std::uint64_t version);
+    /// Does it at once, or after what the window's file is being written or moved by.
+    void afterSaves(std::function<void()> then);
+    void endSave();
     /// The notice about a palette that was kept under a name.
     using Said = std::function<std::string(std::string_view name)>;
     /// In the colour picker; asks when there is a list of that name.

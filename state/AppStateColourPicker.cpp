@@ -64,6 +64,12 @@ void AppState::saveInPickerAsking(const std::string& as, Said said, Done done) {
 
 void AppState::Installing::saveInPicker(AppState& state, std::string_view as, Clash clash,
                                         const Said& said, const Done& done) {
+    if (state.saving_) {
+        state.afterSaves([&state, as = std::string(as), clash, said, done] {
+            saveInPicker(state, as, clash, said, done);
+        });
+        return;
+    }
     if (state.swatches().empty()) {
         state.toast(std::string(kNoSwatches), kForCounts);
         tell(done, false);
@@ -71,11 +77,13 @@ void AppState::Installing::saveInPicker(AppState& state, std::string_view as, Cl
     }
     const auto turn = state.contentTurn_;
     const auto version = state.paletteVersion_.value();
+    state.saving_ = true;
     state.context_.store.save(
         {state.colors(), state.names()}, as, clash,
         whileAlive(state.alive_, [&state, as = std::string(as), said, done, turn, version,
                                   before = state.attachment_.value()](
                                      const std::variant<PaletteStore::Saved, FileError>& result) {
+            state.endSave();
             if (const auto* const error = std::get_if<FileError>(&result)) {
                 state.toast(couldNotText(as, "saved", error->why), kForCounts);
                 tell(done, false);

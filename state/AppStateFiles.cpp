@@ -249,6 +249,10 @@ void AppState::duplicatePalette() {
 }
 
 void AppState::duplicatePalette(std::string_view as) {
+    if (saving_) {
+        afterSaves([this, as = std::string(as)] { duplicatePalette(as); });
+        return;
+    }
     const auto entry = entryOfFile();
     if (whyUnfit(as) || (entry.name.empty() && entry.url.empty())) {
         toast(SaveTexts::couldNotDuplicateText(title()), kForCounts);
@@ -279,6 +283,10 @@ void AppState::renamePalette() {
 }
 
 void AppState::renamePalette(std::string_view to) {
+    if (saving_) {
+        afterSaves([this, to = std::string(to)] { renamePalette(to); });
+        return;
+    }
     const auto from = currentPaletteURL();
     if (!from || to == title()) return;
     if (auto refused = whyUnfit(to)) {
@@ -287,10 +295,12 @@ void AppState::renamePalette(std::string_view to) {
     }
     const auto entry = entryOfFile();
     const auto there = context_.store.placeOfCopy(entry, to);
+    saving_ = true;
     context_.store.rename(
         entry, to,
         whileAlive(alive_, [this, from = *from, to = std::string(to),
                             there](const std::optional<FileError>& error) {
+            endSave();
             if (error && error->isTaken)
                 toast(SaveTexts::alreadyThereText(to), kForCounts);
             else if (error)
@@ -321,15 +331,23 @@ void AppState::attach(PaletteAttachment to) {
 }
 
 void AppState::trashPalette() {
+    if (saving_) {
+        afterSaves([this] { trashPalette(); });
+        return;
+    }
     const auto attached = attachment_.value();
     if (!attached || attached->url.empty()) return;
-    context_.store.trash(
-        entryOfFile(),
-        PaletteQuestions::sayTrashed(
-            context_.services, context_.store, place(), attached->url.filename().string(),
-            whileAlive(alive_, [this, attached = *attached] { Loading::letGo(*this, attached); }),
-            whileAlive(alive_,
-                       [this, attached = *attached] { Loading::takeBack(*this, attached); })));
+    const std::function<void()> ended = whileAlive(alive_, [this] { endSave(); });
+    const auto said = PaletteQuestions::sayTrashed(
+        context_.services, context_.store, place(), attached->url.filename().string(),
+        whileAlive(alive_, [this, attached = *attached] { Loading::letGo(*this, attached); }),
+        whileAlive(alive_, [this, attached = *attached] { Loading::takeBack(*this, attached); }));
+    saving_ = true;
+    context_.store.trash(entryOfFile(),
+                         [ended, said](const std::variant<TrashedFile, FileError>& result) {
+                             ended();
+                             said(result);
+                         });
 }
 
 void AppState::Loading::letGo(AppState& state, const PaletteAttachment& file) {

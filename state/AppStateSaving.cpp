@@ -39,8 +39,6 @@ struct AppState::Saving {
     /// Into the colour picker, as the source cannot be written; `said`: the notice.
     static void saveInsteadOf(AppState& state, const std::string& source, const std::string& said,
                               Done done);
-    /// What a save that is under way delays.
-    static void afterSaves(AppState& state, std::function<void()> then);
     static void saveNext(AppState& state);
     static void saved(AppState& state, const Job& job, const std::optional<FileError>& error);
 };
@@ -177,6 +175,11 @@ void AppState::confirmDiscardingChanges(std::string_view before,
 // Saving
 
 void AppState::savePalette(Done done) {
+    if (saving_) {
+        // The file may be on its way to another name.
+        afterSaves([this, done = std::move(done)] { savePalette(done); });
+        return;
+    }
     if (swatches().empty()) {
         toast(std::string(kNoSwatches), kForCounts);
         tell(done, false);
@@ -243,7 +246,7 @@ void AppState::saveAs(const std::filesystem::path& to, ExportFormat format, Done
 }
 
 void AppState::saveBack(const std::filesystem::path& to, Done done) {
-    Saving::afterSaves(*this, [this, to, done = std::move(done)] {
+    afterSaves([this, to, done = std::move(done)] {
         const auto format = exportFormatForExtension(extensionOf(to));
         const auto name = to.stem().string();
         if (!format || !isReadable(to, *format)) {
@@ -327,9 +330,8 @@ void AppState::Saving::askAboutAlpha(AppState& state, const std::filesystem::pat
 
 void AppState::saveWithoutAsking(const std::filesystem::path& to, ExportFormat format, Done done) {
     if (saving_) {
-        Saving::afterSaves(*this, [this, to, format, done = std::move(done)] {
-            saveWithoutAsking(to, format, done);
-        });
+        afterSaves(
+            [this, to, format, done = std::move(done)] { saveWithoutAsking(to, format, done); });
         return;
     }
     const auto name = to.stem().string();
@@ -358,11 +360,17 @@ void AppState::saveWithoutAsking(const std::filesystem::path& to, ExportFormat f
             const std::optional<FileError>& error) { Saving::saved(*this, job, error); });
 }
 
-void AppState::Saving::afterSaves(AppState& state, std::function<void()> then) {
-    if (state.saving_)
-        state.afterSaves_.push_back(std::move(then));
+void AppState::afterSaves(std::function<void()> then) {
+    if (saving_)
+        afterSaves_.push_back(std::move(then));
     else
         then();
+}
+
+void AppState::endSave() {
+    saving_ = false;
+    if (!afterSaves_.empty())
+        context_.services.mainLoop.post(whileAlive(alive_, [this] { Saving::saveNext(*this); }));
 }
 
 void AppState::Saving::saveNext(AppState& state) {
@@ -378,10 +386,7 @@ void AppState::Saving::saveNext(AppState& state) {
 
 void AppState::Saving::saved(AppState& state, const Job& job,
                              const std::optional<FileError>& error) {
-    state.saving_ = false;
-    if (!state.afterSaves_.empty())
-        state.context_.services.mainLoop.post(
-            whileAlive(state.alive_, [&state] { saveNext(state); }));
+    state.endSave();
     const auto file = job.to.filename().string();
     if (error) {
         state.toast(couldNotText(file, "saved", error->why), kForCounts);

@@ -155,6 +155,10 @@ void Models::rescanPalettes() {
     parts.preferences.scanGeneration = parts.store.scanGeneration();
 }
 
+void Models::listPalettes() {
+    if (!parts_->palettesAreListed) parts_->listPalettes();
+}
+
 // Keeping
 
 void Models::Parts::watchSharedModels() {

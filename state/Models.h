@@ -59,6 +59,8 @@ public:
 
     /// Reads the palette folders again.
     void rescanPalettes();
+    /// Lists the palettes unless that was done before.
+    void listPalettes();
     /// Goes up when what the Library lists has changed (it takes PaletteStore::whenChanged).
     const QProperty<std::uint64_t>& libraryVersion() const;
 

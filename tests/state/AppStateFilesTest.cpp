@@ -112,30 +112,37 @@ TEST(AppStateFiles, CopiesRenamesAndTrashesItsFile) {
     auto& state = desk.opened(desk.window(), desk.gpl("Reds.gpl", 3));
     state.duplicatePalette("Copy");
     state.duplicatePalette("Copy");
+    desk.settle();
     EXPECT_EQ(desk.notices(),
               (Texts{"Duplicated Reds as Copy", "“Copy” is already there. Choose another name."}));
     EXPECT_EQ(desk.folder.content("Copy.gpl"), desk.folder.content("Reds.gpl"));
     desk.desktop.dialogues.names = {"Copy"};
     state.renamePalette();
     EXPECT_EQ(desk.desktop.dialogues.refusal, "“Copy” is already there. Choose another name.");
+    desk.desktop.background.holds = true;
     state.renamePalette("Rouge");
     FilesDesk::add(state, 1);
-    state.savePalette();
+    state.savePalette(); // while the file is on its way to its new name
+    desk.desktop.background.holds = false;
+    desk.desktop.background.finish();
     desk.settle();
     EXPECT_EQ(desk.notices(), Texts{"Saved Rouge.gpl"}) << "the renamed file is no other file";
     EXPECT_FALSE(fs::exists(desk.folder / "Reds.gpl"));
 
     state.trashPalette();
+    desk.settle();
     EXPECT_FALSE(fs::exists(desk.folder / "Rouge.gpl"));
     EXPECT_EQ(state.title(), state.untitledName());
     EXPECT_EQ(state.swatches().size(), 4U);
     const auto undo = desk.desktop.toasts.shown.back().action.value();
     EXPECT_EQ(desk.notices(), Texts{"Moved Rouge.gpl to the Trash"});
     undo.perform();
+    desk.settle();
     EXPECT_EQ(state.currentPaletteURL(), desk.folder / "Rouge.gpl");
     EXPECT_TRUE(fs::remove(desk.folder / "Rouge.gpl"));
     state.trashPalette();
     state.duplicatePalette("Again");
+    desk.settle();
     EXPECT_EQ(desk.notices(),
               (Texts{"Rouge.gpl could not be moved to the Trash: No such file or directory",
                      "Could not duplicate Rouge"}));

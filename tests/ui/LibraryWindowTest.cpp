@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QMimeData>
+#include <QUrl>
 
 namespace tintra::test {
 namespace {
@@ -229,6 +231,7 @@ TEST_F(LibraryWindowTest, DuplicatesTrashesRevealsAndInstalls) {
     press("Ctrl+D");
     EXPECT_EQ(desk.desktop.dialogues.refusal, "“Evening” is already there. Choose another name.");
     press("Ctrl+D");
+    desk.settle();
     EXPECT_TRUE(fs::exists(desk.folder / "Studio/Harbour 2.gpl"));
     EXPECT_EQ(current(), "Harbour") << "the focus stays where it was";
     press("Ctrl+R");
@@ -257,6 +260,7 @@ TEST_F(LibraryWindowTest, DuplicatesTrashesRevealsAndInstalls) {
     desk.desktop.dialogues.names = {"Port"};
     window.files().installFor((desk.folder / "Studio/Harbour.gpl").string(),
                               {"GIMP 2.10", desk.folder / "gimp"});
+    desk.settle();
     EXPECT_TRUE(fs::exists(desk.folder / "gimp/Port.gpl"));
     fs::remove(desk.folder / "Studio/Café.gpl");
     desk.models.rescanPalettes();
@@ -307,6 +311,37 @@ TEST_F(LibraryWindowTest, AGroupsMenuEditsItsFolder) {
     perform(ActionId::addLocation, window.context());
     EXPECT_EQ(rows()[1], " Museum");
     EXPECT_EQ(rows().size(), 6U);
+}
+
+TEST_F(LibraryWindowTest, WatchesFoldersThatAreDroppedOnIt) {
+    show();
+    desk.gpl("Inks/Sepia.gpl", 2, "Sepia");
+    desk.gpl("Papers/Laid.gpl", 2, "Laid");
+    const struct {
+        Lines dropped, notices;
+        std::size_t groups;
+    } cases[] = {
+        {{"Inks/", "Papers", "Studio/Harbour.gpl"}, {}, 4},
+        {{"Inks"}, {"That folder is already being watched"}, 4},
+        {{"Studio/Harbour.gpl"}, {"Choose a folder of palette files. Tintra only reads it."}, 4},
+        {{"Nowhere"}, {"Nowhere could not be read"}, 4},
+    };
+    for (const auto& [files, notices, groups] : cases) {
+        SCOPED_TRACE(files.front());
+        QList<QUrl> urls;
+        for (const auto& file : files)
+            urls << QUrl::fromLocalFile(QString::fromStdString((desk.folder / file).string()));
+        QMimeData data;
+        data.setUrls(urls);
+        EXPECT_TRUE(drop(window, {200, 200}, data).taken);
+        desk.settle();
+        EXPECT_EQ(desk.notices(), notices);
+        EXPECT_EQ(window.model().listing().sections.size(), groups);
+    }
+    EXPECT_EQ(rows().back(), " Laid");
+    QMimeData colour;
+    colour.setColorData(QColor(Qt::red));
+    EXPECT_FALSE(drop(window, {200, 200}, colour).entered);
 }
 
 TEST_F(LibraryWindowTest, FollowsWatchedFoldersAndKeepsItsPlace) {

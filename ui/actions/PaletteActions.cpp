@@ -4,11 +4,12 @@
 #include "state/Models.h"
 #include "ui/actions/ActionRows.h"
 #include "ui/actions/FormatMenus.h"
+#include "ui/shared/Subscriptions.h"
 #include "ui/shared/Text.h"
 
 #include <QMenu>
 #include <algorithm>
-#include <map>
+#include <memory>
 
 namespace tintra::actionRows {
 namespace {
@@ -21,7 +22,10 @@ bool isListed(const PaletteEntry& entry) {
 }
 
 bool hasLibraryPalettes(const Context& context) {
-    return std::ranges::any_of(context.ui.models.store().available(), isListed);
+    auto& models = context.ui.models;
+    // Without a scan at the start nothing is known before somebody looks.
+    return std::ranges::any_of(models.store().available(), isListed) ||
+           !models.preferences().paletteLocations.value().empty();
 }
 
 /// What heads the palettes of an entry's group.
@@ -50,19 +54,41 @@ void addBlankSwatch(const Context& context) {
 }
 
 /// A submenu a location, in the order of locations.
-void fillLibraryPalettes(QMenu& menu, const Context& context) {
+void addLibraryPalettes(QMenu& menu, const Context& context) {
     auto& to = state(context);
-    std::map<QString, QMenu*> groups;
-    for (const auto& entry : context.ui.models.store().available()) {
+    const auto& store = context.ui.models.store();
+    const PaletteEntry* before = nullptr;
+    QMenu* group = nullptr;
+    // The palettes of a group stand side by side.
+    for (const auto& entry : store.available()) {
         if (!isListed(entry)) continue;
-        const auto title = heading(entry, context.ui.models.preferences());
-        auto*& group = groups[title];
-        if (!group) group = menu.addMenu(title);
+        if (!before || before->group != entry.group || before->location != entry.location)
+            group = menu.addMenu(heading(entry, context.ui.models.preferences()));
+        before = &entry;
         if (group->actions().size() >= kMostInMenu) continue;
         auto* action = group->addAction(oneLine(entry.name, 60));
         QObject::connect(action, &QAction::triggered, &menu,
                          [&to, entry] { to.loadPalette(entry); });
     }
+    if (!menu.isEmpty()) return;
+    menu.addAction(
+            worded(store.isScanning() ? "Reading the palette folders…" : "No palettes found"))
+        ->setEnabled(false);
+}
+
+/// What is read while the menu is open comes into it.
+void fillLibraryPalettes(QMenu& menu, const Context& context) {
+    auto& models = context.ui.models;
+    models.listPalettes();
+    addLibraryPalettes(menu, context);
+    if (!models.store().isScanning()) return;
+    auto following = std::make_shared<Subscriptions>();
+    following->add(models.libraryVersion(), [&menu, &models, context] {
+        if (models.store().isScanning()) return;
+        menu.clear();
+        addLibraryPalettes(menu, context);
+    });
+    QObject::connect(&menu, &QObject::destroyed, [following] {});
 }
 
 const ActionRow kRows[] = {

@@ -377,6 +377,12 @@ const LibraryGroup* LibraryCanvas::currentGroup() const {
     return &listing.groupOf(listing.sections[place_->index]);
 }
 
+QPoint LibraryCanvas::menuPlace() const {
+    if (focused() < 0) return mapToGlobal(rect().center());
+    const auto rect = items()[static_cast<std::size_t>(focused())].rect;
+    return mapToGlobal(rect.bottomLeft().toPoint());
+}
+
 void LibraryCanvas::focusMoved(int item) {
     if (item >= 0) {
         const auto& one = items()[static_cast<std::size_t>(item)];

@@ -38,6 +38,8 @@ public:
     const LibraryGroup* currentGroup() const;
     /// Gives the keyboard to the current palette, or the first one.
     void takeKeyboard();
+    /// Where a menu about what has the focus stands, on the screen.
+    QPoint menuPlace() const;
     /// Whether what is dragged over the window would be taken.
     void showDrop(bool isOver);
 

@@ -250,7 +250,7 @@ void LibraryPainter::tile(QPainter& painter, const QRectF& in, std::size_t find,
                      ? swatchName(*match.swatch)
                      : swatchCode(ui_, *match.swatch) + QStringLiteral(" · ") + match.distance;
     twoLines(painter, words, oneLine(palette.name), second);
-    buttons(painter, tileButtons(in), look.hoveredButton);
+    if (!look.isDragged) buttons(painter, tileButtons(in), look.hoveredButton);
     if (look.isFocused)
         paintFocusRing(painter, theme, in.adjusted(-2, -2, 2, 2), metrics::kGroupRadius + 2);
     else if (look.isCurrent) {

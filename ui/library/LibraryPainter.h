@@ -16,6 +16,7 @@ struct LibraryLook {
     bool isCurrent = false; ///< actions act on it
     bool isFocused = false; ///< with a ring
     bool isHovered = false;
+    bool isDragged = false; ///< without buttons
     int hoveredButton = -1; ///< of its small buttons
 };
 

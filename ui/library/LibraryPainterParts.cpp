@@ -158,7 +158,7 @@ QPixmap LibraryPainter::card(std::size_t find, qreal ratio) const {
     painter.drawRoundedRect(place.adjusted(-4, -4, 4, 4), 12, 12);
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(place.adjusted(-2, -2, 2, 2), 10, 10);
-    tile(painter, place, find, {});
+    tile(painter, place, find, {.isDragged = true});
     return pixmap;
 }
 

@@ -9,7 +9,6 @@
 #include "ui/shared/Text.h"
 
 #include <QCloseEvent>
-#include <QCursor>
 #include <QDropEvent>
 #include <QMimeData>
 
@@ -88,7 +87,7 @@ void LibraryWindow::act(LibraryPanel::Action action) {
         perform(installListed, context());
         return;
     case LibraryPanel::installFor:
-        popUp(QCursor::pos(),
+        popUp(canvas_->menuPlace(),
               [this](QMenu& menu) { actionRow(installListedFor).fill(menu, context()); });
         return;
     case LibraryPanel::duplicate:

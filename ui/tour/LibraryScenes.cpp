@@ -4,6 +4,7 @@
 #include "state/Models.h"
 #include "ui/library/LibraryWindow.h"
 #include "ui/tour/Scenes.h"
+#include "ui/tour/Sheet.h"
 
 #include <chrono>
 #include <filesystem>
@@ -224,6 +225,24 @@ QImage colourSearch(Stage& stage) {
     return stage.grab(window);
 }
 
+/// The smallest window with the largest type: a search, and what is unfolded.
+QImage narrow(Stage& stage) {
+    stage.preferences().typeSize = TypeSize::largest;
+    keepStudio(stage);
+    keepClientWork(stage, museumLabels());
+    watchBoth(stage);
+    auto& window = opened(stage, {520, 640});
+    std::vector<QImage> pictures;
+    walkTo(stage, window, "Orchard Wall");
+    stage.press(Qt::Key_Right);
+    pictures.push_back(stage.grab(window));
+    search(stage, "#c2452d");
+    pictures.push_back(stage.grab(window));
+    stage.preferences().libraryTiles = true;
+    pictures.push_back(stage.grab(window));
+    return sheet(pictures, 3);
+}
+
 // What is said where there is nothing to show
 
 QImage noFolders(Stage& stage) {
@@ -273,6 +292,7 @@ constexpr Scene kScenes[] = {
     {"library-rows", kAll, rows},
     {"library-tiles", kBoth, tiles},
     {"library-colour-search", kBoth, colourSearch},
+    {"library-narrow", kLight, narrow},
     {"library-no-folders", kBoth, noFolders},
     {"library-no-palettes", kLight, noPalettes},
     {"library-reading", kBoth, reading},
