@@ -55,7 +55,8 @@ PaletteSurroundings PaletteSurroundings::ofThisSystem(MainLoop& mainLoop, Backgr
 PaletteStore::PaletteStore(PaletteSurroundings surroundings)
     : surroundings_(std::move(surroundings)),
       list_(std::make_shared<PaletteList>(surroundings_.mainLoop, surroundings_.background,
-                                          surroundings_.folderWatch)) {
+                                          surroundings_.folderWatch)),
+      fileWork_(surroundings_.mainLoop, surroundings_.background) {
     list_->start();
 }
 
@@ -72,6 +73,7 @@ void PaletteStore::setLocations(const std::vector<PaletteLocation>& locations, b
 
 void PaletteStore::rescan() {
     ++scanGeneration_;
+    findInstallTargets();
     list_->rescan();
 }
 

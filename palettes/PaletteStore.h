@@ -7,6 +7,7 @@
 #include "palettes/PaletteLocation.h"
 #include "palettes/PaletteSearch.h"
 #include "palettes/SystemPalettes.h"
+#include "palettes/library/FileWork.h"
 #include "platform/Trash.h"
 
 #include <cstddef>
@@ -55,7 +56,8 @@ public:
     PaletteStore(const PaletteStore&) = delete;
     PaletteStore& operator=(const PaletteStore&) = delete;
 
-    /// Is told after `available` has changed, once a turn of the loop.
+    /// Is told after `available` or the folders to install into have changed, once a turn of the
+    /// loop.
     void whenChanged(std::function<void()> told);
 
     /// What to list from now on; rescans. Entries of locations that stay, stay meanwhile.
@@ -108,16 +110,25 @@ public:
         std::filesystem::path file;
         bool oldIsInTrash = false;
     };
+    /// Swatches to be written; a shorter list of names leaves the rest unnamed.
+    struct Content {
+        std::vector<WashColor> colors;
+        std::vector<std::optional<std::string>> names;
+        static Content of(std::span<const PaletteFile::Swatch> swatches);
+    };
+    // What changes files is done beside the main loop, one after the other in the order in which it
+    // was asked for. What became of it is told on the main loop, to nobody after the end of the
+    // store.
+    using Done = std::function<void(const std::optional<FileError>& error)>;
+    using SaveDone = std::function<void(const std::variant<Saved, FileError>&)>;
+    using TrashDone = std::function<void(const std::variant<TrashedFile, FileError>&)>;
+
     /// Writes a colour list, and a GIMP palette beside it for the programs that read those.
-    std::variant<Saved, FileError> save(std::span<const WashColor> colors,
-                                        std::span<const std::optional<std::string>> names,
-                                        std::string_view as, Clash clash);
-    /// The folders of drawing programs that exist.
-    std::vector<InstallTarget> installTargets() const;
-    std::variant<Saved, FileError> install(std::span<const WashColor> colors,
-                                           std::span<const std::optional<std::string>> names,
-                                           std::string_view as, const InstallTarget& into,
-                                           Clash clash);
+    void save(Content content, std::string_view as, Clash clash, SaveDone then);
+    /// The folders of drawing programs that existed when folders were last listed.
+    const std::vector<InstallTarget>& installTargets() const { return installTargets_; }
+    void install(Content content, std::string_view as, const InstallTarget& into, Clash clash,
+                 SaveDone then);
 
     // Files of entries. A name that is unfit for a file is refused (see whyUnfit in
     // palettes/FileNames.h). A colour list and the GIMP palette beside it go together.
@@ -125,10 +136,10 @@ public:
     /// Where a copy of that name would go: beside the original, with its extension; a copy of a
     /// system palette goes to the colour picker as a colour list.
     std::filesystem::path placeOfCopy(const PaletteEntry& of, std::string_view name) const;
-    std::optional<FileError> duplicate(const PaletteEntry& entry, std::string_view name);
-    std::optional<FileError> rename(const PaletteEntry& entry, std::string_view name);
-    std::variant<TrashedFile, FileError> trash(const PaletteEntry& entry);
-    std::optional<FileError> putBack(const TrashedFile& file);
+    void duplicate(const PaletteEntry& entry, std::string_view name, Done then);
+    void rename(const PaletteEntry& entry, std::string_view name, Done then);
+    void trash(const PaletteEntry& entry, TrashDone then);
+    void putBack(const TrashedFile& file, Done then);
     /// Newest last.
     const std::vector<TrashedFile>& trashedThisSession() const;
 
@@ -141,20 +152,19 @@ private:
         TrashedFile file;
     };
 
-    std::optional<FileError> duplicateAsColourList(const PaletteEntry& entry,
-                                                   std::string_view name);
+    void findInstallTargets();
+    void duplicateAsColourList(const PaletteEntry& entry, std::string_view name, Done then);
     void noteTrashed(const std::vector<TrashedFile>& files);
-    std::variant<Saved, FileError> put(const std::filesystem::path& folder, std::string_view as,
-                                       std::span<const ExportFormat> formats,
-                                       std::span<const WashColor> colors,
-                                       std::span<const std::optional<std::string>> names,
-                                       Clash clash);
+    void put(const std::filesystem::path& folder, std::string_view as,
+             std::span<const ExportFormat> formats, Content content, Clash clash, SaveDone then);
 
     PaletteSurroundings surroundings_;
     std::shared_ptr<PaletteList> list_;
     std::uint64_t scanGeneration_ = 0;
     std::vector<TrashedFile> trashed_;
     std::vector<Companion> companions_;
+    std::vector<InstallTarget> installTargets_;
+    FileWork fileWork_; ///< the first to go: what it tells uses the rest
 };
 
 } // namespace tintra

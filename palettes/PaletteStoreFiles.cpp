@@ -8,6 +8,7 @@
 #include <array>
 #include <cerrno>
 #include <system_error>
+#include <utility>
 
 // What the store does with files: the lists of the colour picker, copies, names, the Trash.
 
@@ -51,6 +52,10 @@ std::optional<fs::path> besides(const PaletteEntry& entry) {
     return isThere(file) ? std::optional(file) : std::nullopt;
 }
 
+FileError taken() {
+    return {errorOf(EEXIST).why, true};
+}
+
 std::optional<FileError> copyFile(const fs::path& from, const fs::path& to) {
     const auto content = readFile(from);
     if (const auto* error = std::get_if<FileError>(&content)) return *error;
@@ -67,6 +72,7 @@ std::optional<FileError> moveFile(const fs::path& from, const fs::path& to) {
 template <class Act, class Undo>
 std::optional<FileError> actOnBoth(const PaletteEntry& entry, const fs::path& to, Act act,
                                    Undo undo) {
+    if (isThere(to)) return taken();
     if (auto error = act(entry.url, to)) return error;
     const auto beside = besides(entry);
     if (!beside) return std::nullopt;
@@ -75,6 +81,56 @@ std::optional<FileError> actOnBoth(const PaletteEntry& entry, const fs::path& to
     auto error = act(*beside, besideTo);
     if (error) undo(to);
     return error;
+}
+
+std::optional<FileError> duplicateFiles(const PaletteEntry& entry, const fs::path& to) {
+    return actOnBoth(entry, to, copyFile, [](const fs::path& copy) {
+        std::error_code ignored;
+        fs::remove(copy, ignored);
+    });
+}
+
+std::optional<FileError> renameFiles(const PaletteEntry& entry, const fs::path& to) {
+    return actOnBoth(entry, to, moveFile,
+                     [&](const fs::path& moved) { moveFile(moved, entry.url); });
+}
+
+/// All or nothing; the first is the entry's own.
+using Trashed = std::variant<std::vector<TrashedFile>, FileError>;
+
+Trashed trashFiles(const PaletteEntry& entry, Trash& trash) {
+    const auto beside = besides(entry);
+    auto first = trash.trash(entry.url);
+    if (auto* error = std::get_if<FileError>(&first)) return std::move(*error);
+    std::vector<TrashedFile> files{std::get<TrashedFile>(std::move(first))};
+    if (!beside) return files;
+    auto second = trash.trash(*beside);
+    if (auto* file = std::get_if<TrashedFile>(&second)) files.push_back(std::move(*file));
+    return files;
+}
+
+/// Files that were put into a folder, and those that made way for them.
+struct Put {
+    PaletteStore::Saved saved;
+    std::vector<TrashedFile> replaced;
+};
+
+std::variant<Put, FileError> putFiles(const fs::path& folder, std::string name,
+                                      std::span<const ExportFormat> formats,
+                                      const PaletteStore::Content& content,
+                                      PaletteStore::Clash clash, Trash& trash) {
+    std::vector<NewFile> files;
+    for (const auto format : formats) {
+        auto written = PaletteExport::data(format, content.colors, content.names, name, {});
+        if (!written) return FileError{"There are no colours to write."};
+        files.push_back({std::string(fileExtension(format)), std::move(*written)});
+    }
+    if (clash == PaletteStore::Clash::keepBoth) name = freeName(folder, name, files);
+    auto put = putNamedFiles(folder, name, files, trash);
+    if (auto* error = std::get_if<FileError>(&put)) return std::move(*error);
+    auto& replaced = std::get<std::vector<TrashedFile>>(put);
+    const auto file = namedFile(folder, name, "." + files.front().extension);
+    return Put{{name, file, !replaced.empty()}, std::move(replaced)};
 }
 
 } // namespace
@@ -98,49 +154,55 @@ PaletteStore::loadNamed(std::string_view name) const {
     return PaletteFile::readNamed(namedFile(colorsDirectory(), fitFileName(name), ".clr"));
 }
 
-std::variant<PaletteStore::Saved, FileError>
-PaletteStore::save(std::span<const WashColor> colors,
-                   std::span<const std::optional<std::string>> names, std::string_view as,
-                   Clash clash) {
-    if (colorsDirectory().empty()) return errorOf(ENOENT);
-    return put(colorsDirectory(), as, kColourPickerFormats, colors, names, clash);
-}
-
-std::vector<InstallTarget> PaletteStore::installTargets() const {
-    std::vector<InstallTarget> present;
-    std::error_code ignored;
-    std::ranges::copy_if(
-        surroundings_.installTargets, std::back_inserter(present),
-        [&](const InstallTarget& target) { return fs::is_directory(target.folder, ignored); });
-    return present;
-}
-
-std::variant<PaletteStore::Saved, FileError>
-PaletteStore::install(std::span<const WashColor> colors,
-                      std::span<const std::optional<std::string>> names, std::string_view as,
-                      const InstallTarget& into, Clash clash) {
-    return put(into.folder, as, kDrawingProgramFormats, colors, names, clash);
-}
-
-std::variant<PaletteStore::Saved, FileError>
-PaletteStore::put(const fs::path& folder, std::string_view as,
-                  std::span<const ExportFormat> formats, std::span<const WashColor> colors,
-                  std::span<const std::optional<std::string>> names, Clash clash) {
-    auto name = fitFileName(as);
-    if (name.empty()) return FileError{*whyUnfit("")};
-    std::vector<NewFile> files;
-    for (const auto format : formats) {
-        auto content = PaletteExport::data(format, colors, names, name, {});
-        if (!content) return FileError{"There are no colours to write."};
-        files.push_back({std::string(fileExtension(format)), std::move(*content)});
+PaletteStore::Content PaletteStore::Content::of(std::span<const PaletteFile::Swatch> swatches) {
+    Content content;
+    for (const auto& swatch : swatches) {
+        content.colors.push_back(swatch.color);
+        content.names.push_back(swatch.name);
     }
-    if (clash == Clash::keepBoth) name = freeName(folder, name, files);
-    auto put = putNamedFiles(folder, name, files, surroundings_.trash);
-    if (auto* error = std::get_if<FileError>(&put)) return std::move(*error);
-    const auto& replaced = std::get<std::vector<TrashedFile>>(put);
-    noteTrashed(replaced);
-    list_->rescan(folder);
-    return Saved{name, namedFile(folder, name, "." + files.front().extension), !replaced.empty()};
+    return content;
+}
+
+void PaletteStore::save(Content content, std::string_view as, Clash clash, SaveDone then) {
+    put(colorsDirectory(), as, kColourPickerFormats, std::move(content), clash, std::move(then));
+}
+
+void PaletteStore::findInstallTargets() {
+    fileWork_.run(
+        [all = surroundings_.installTargets]() mutable {
+            std::error_code ignored;
+            std::erase_if(
+                all, [&](const auto& target) { return !fs::is_directory(target.folder, ignored); });
+            return std::move(all);
+        },
+        [this](std::vector<InstallTarget> present) {
+            if (std::exchange(installTargets_, std::move(present)) != installTargets_)
+                list_->changed();
+        });
+}
+
+void PaletteStore::install(Content content, std::string_view as, const InstallTarget& into,
+                           Clash clash, SaveDone then) {
+    put(into.folder, as, kDrawingProgramFormats, std::move(content), clash, std::move(then));
+}
+
+void PaletteStore::put(const fs::path& folder, std::string_view as,
+                       std::span<const ExportFormat> formats, Content content, Clash clash,
+                       SaveDone then) {
+    fileWork_.run(
+        [folder, name = fitFileName(as), formats, content = std::move(content), clash,
+         &trash = surroundings_.trash]() -> std::variant<Put, FileError> {
+            if (folder.empty()) return errorOf(ENOENT);
+            if (name.empty()) return FileError{*whyUnfit("")};
+            return putFiles(folder, name, formats, content, clash, trash);
+        },
+        [this, folder, then = std::move(then)](const std::variant<Put, FileError>& result) {
+            if (const auto* error = std::get_if<FileError>(&result)) return then(*error);
+            const auto& [saved, replaced] = std::get<Put>(result);
+            noteTrashed(replaced);
+            list_->rescan(folder);
+            then(saved);
+        });
 }
 
 fs::path PaletteStore::placeOfCopy(const PaletteEntry& of, std::string_view name) const {
@@ -148,60 +210,58 @@ fs::path PaletteStore::placeOfCopy(const PaletteEntry& of, std::string_view name
     return namedFile(of.url.parent_path(), name, of.url.extension().native());
 }
 
-std::optional<FileError> PaletteStore::duplicate(const PaletteEntry& entry, std::string_view name) {
-    if (const auto why = whyUnfit(name)) return FileError{*why};
+void PaletteStore::duplicate(const PaletteEntry& entry, std::string_view name, Done then) {
+    if (const auto why = whyUnfit(name)) return then(FileError{*why});
+    if (entry.group == Group::system) return duplicateAsColourList(entry, name, std::move(then));
     const auto to = placeOfCopy(entry, name);
-    if (isThere(to)) return errorOf(EEXIST);
-    if (entry.group == Group::system) return duplicateAsColourList(entry, name);
-    auto error = actOnBoth(entry, to, copyFile, [](const fs::path& copy) {
-        std::error_code ignored;
-        fs::remove(copy, ignored);
-    });
-    if (!error) list_->rescan(to.parent_path());
-    return error;
+    fileWork_.run([entry, to] { return duplicateFiles(entry, to); },
+                  [this, to, then = std::move(then)](const std::optional<FileError>& error) {
+                      if (!error) list_->rescan(to.parent_path());
+                      then(error);
+                  });
 }
 
-std::optional<FileError> PaletteStore::duplicateAsColourList(const PaletteEntry& entry,
-                                                             std::string_view name) {
-    const auto palette = entry.url.empty() ? entry.palette : cache().warm(entry.url);
-    if (palette == nullptr) return errorOf(ENOENT);
-    std::vector<WashColor> colors;
-    std::vector<std::optional<std::string>> names;
-    for (const auto& swatch : palette->swatches) {
-        colors.push_back(swatch.color);
-        names.push_back(swatch.name);
-    }
-    auto saved = save(colors, names, name, Clash::keepBoth);
-    if (auto* error = std::get_if<FileError>(&saved)) return std::move(*error);
-    return std::nullopt;
+void PaletteStore::duplicateAsColourList(const PaletteEntry& entry, std::string_view name,
+                                         Done then) {
+    fileWork_.run(
+        [entry, to = placeOfCopy(entry, name), name = std::string(name),
+         &trash = surroundings_.trash]() -> std::variant<Put, FileError> {
+            if (isThere(to)) return taken();
+            const auto read = entry.palette ? std::optional(entry.palette->swatches)
+                                            : PaletteFile::readNamed(entry.url);
+            if (!read) return errorOf(ENOENT);
+            return putFiles(to.parent_path(), name, kColourPickerFormats, Content::of(*read),
+                            Clash::keepBoth, trash);
+        },
+        [this, then = std::move(then)](const std::variant<Put, FileError>& result) {
+            if (const auto* error = std::get_if<FileError>(&result)) return then(*error);
+            list_->rescan(colorsDirectory());
+            then(std::nullopt);
+        });
 }
 
-std::optional<FileError> PaletteStore::rename(const PaletteEntry& entry, std::string_view name) {
-    if (const auto why = whyUnfit(name)) return FileError{*why};
-    if (auto error = whyFixed(entry)) return error;
+void PaletteStore::rename(const PaletteEntry& entry, std::string_view name, Done then) {
+    if (const auto why = whyUnfit(name)) return then(FileError{*why});
+    if (const auto error = whyFixed(entry)) return then(error);
     const auto to = namedFile(entry.url.parent_path(), name, entry.url.extension().native());
-    if (to == entry.url) return std::nullopt;
-    const auto from = entry.url;
-    auto error =
-        actOnBoth(entry, to, moveFile, [&](const fs::path& moved) { moveFile(moved, from); });
-    if (!error) list_->rescan(to.parent_path());
-    return error;
+    if (to == entry.url) return then(std::nullopt);
+    fileWork_.run([entry, to] { return renameFiles(entry, to); },
+                  [this, to, then = std::move(then)](const std::optional<FileError>& error) {
+                      if (!error) list_->rescan(to.parent_path());
+                      then(error);
+                  });
 }
 
-std::variant<TrashedFile, FileError> PaletteStore::trash(const PaletteEntry& entry) {
-    if (auto error = whyFixed(entry)) return std::move(*error);
-    const auto key = entry.key(); // the entry may be one of the list
-    const auto beside = besides(entry);
-    auto trashed = surroundings_.trash.trash(entry.url);
-    if (std::holds_alternative<FileError>(trashed)) return trashed;
-    std::vector<TrashedFile> files{std::get<TrashedFile>(trashed)};
-    if (beside) {
-        auto second = surroundings_.trash.trash(*beside);
-        if (auto* file = std::get_if<TrashedFile>(&second)) files.push_back(std::move(*file));
-    }
-    noteTrashed(files);
-    list_->remove(key);
-    return trashed;
+void PaletteStore::trash(const PaletteEntry& entry, TrashDone then) {
+    if (const auto error = whyFixed(entry)) return then(*error);
+    fileWork_.run([entry, &trash = surroundings_.trash] { return trashFiles(entry, trash); },
+                  [this, key = entry.key(), then = std::move(then)](const Trashed& result) {
+                      if (const auto* error = std::get_if<FileError>(&result)) return then(*error);
+                      const auto& files = std::get<std::vector<TrashedFile>>(result);
+                      noteTrashed(files);
+                      list_->remove(key);
+                      then(files.front());
+                  });
 }
 
 void PaletteStore::noteTrashed(const std::vector<TrashedFile>& files) {
@@ -211,17 +271,26 @@ void PaletteStore::noteTrashed(const std::vector<TrashedFile>& files) {
         companions_.push_back({files.front().inTrash, files[i]});
 }
 
-std::optional<FileError> PaletteStore::putBack(const TrashedFile& file) {
-    const auto back = file; // it may be one of `trashed_`
-    if (auto error = surroundings_.trash.putBack(back)) return error;
-    std::erase(trashed_, back);
-    std::erase_if(companions_, [&](const Companion& companion) {
-        if (companion.of != back.inTrash) return false;
-        surroundings_.trash.putBack(companion.file);
-        return true;
-    });
-    list_->rescan(back.original.parent_path());
-    return std::nullopt;
+void PaletteStore::putBack(const TrashedFile& file, Done then) {
+    std::vector<TrashedFile> beside;
+    for (const auto& companion : companions_)
+        if (companion.of == file.inTrash) beside.push_back(companion.file);
+    fileWork_.run(
+        [file, beside = std::move(beside), &trash = surroundings_.trash] {
+            auto error = trash.putBack(file);
+            if (error) return error;
+            for (const auto& other : beside)
+                trash.putBack(other);
+            return error;
+        },
+        [this, back = file, then = std::move(then)](const std::optional<FileError>& error) {
+            if (error) return then(error);
+            std::erase(trashed_, back);
+            std::erase_if(companions_,
+                          [&](const Companion& companion) { return companion.of == back.inTrash; });
+            list_->rescan(back.original.parent_path());
+            then(std::nullopt);
+        });
 }
 
 const std::vector<TrashedFile>& PaletteStore::trashedThisSession() const {

@@ -14,6 +14,7 @@ namespace tintra {
 /// "No such file or directory".
 struct FileError {
     std::string why;
+    bool isTaken = false; ///< of a file that was to have a new name: there is one of that name
 };
 
 /// The whole content of a regular file (or of a pipe that ends), or why it cannot be had. A folder

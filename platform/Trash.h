@@ -15,7 +15,7 @@ struct TrashedFile {
     bool operator==(const TrashedFile&) const = default;
 };
 
-/// The desktop's Trash. Main loop.
+/// The desktop's Trash. Any thread, one at a time.
 class Trash {
 public:
     virtual ~Trash() = default;

@@ -30,9 +30,8 @@ struct AppState::Installing {
                             Clash clash);
     static void askToRenameList(AppState& state, const std::string& as, Clash clash);
     static void renameList(AppState& state, const std::string& as, Clash clash);
-    static void sayInstalled(AppState& state, std::string_view as,
-                             const std::variant<PaletteStore::Saved, FileError>& result,
-                             const Said& said);
+    static PaletteStore::SaveDone sayInstalled(const AppState& state, std::string_view as,
+                                               Said said);
 };
 
 namespace {
@@ -70,18 +69,28 @@ void AppState::Installing::saveInPicker(AppState& state, std::string_view as, Cl
         tell(done, false);
         return;
     }
-    const auto result = state.context_.store.save(state.colors(), state.names(), as, clash);
-    if (const auto* const error = std::get_if<FileError>(&result)) {
-        state.toast(couldNotText(as, "saved", error->why), kForCounts);
-        tell(done, false);
-        return;
-    }
-    const auto& list = std::get<PaletteStore::Saved>(result);
-    auto text = said(list.name);
-    if (list.oldIsInTrash) text += kOldListInTrash;
-    state.keep({list.name, list.file}, state.paletteVersion_.value());
-    state.toast(std::move(text), kForCounts);
-    tell(done, true);
+    const auto turn = state.contentTurn_;
+    const auto version = state.paletteVersion_.value();
+    state.context_.store.save(
+        {state.colors(), state.names()}, as, clash,
+        whileAlive(state.alive_, [&state, as = std::string(as), said, done, turn, version,
+                                  before = state.attachment_.value()](
+                                     const std::variant<PaletteStore::Saved, FileError>& result) {
+            if (const auto* const error = std::get_if<FileError>(&result)) {
+                state.toast(couldNotText(as, "saved", error->why), kForCounts);
+                tell(done, false);
+                return;
+            }
+            const auto& list = std::get<PaletteStore::Saved>(result);
+            // The window may show another palette by now.
+            if (turn == state.contentTurn_ && before == state.attachment_.value())
+                state.keep({list.name, list.file}, version);
+            else
+                static_cast<void>(state.context_.windows.saved(list.file));
+            state.toast(said(list.name) + std::string(list.oldIsInTrash ? kOldListInTrash : ""),
+                        kForCounts);
+            tell(done, true);
+        }));
 }
 
 void AppState::Installing::askAboutClash(AppState& state, std::string_view name,
@@ -167,25 +176,28 @@ void AppState::Installing::renameList(AppState& state, const std::string& as, Cl
     const auto old = state.entryOfFile();
     state.savePalette(as, clash, [&state, old](bool saved) {
         if (!saved) return;
-        const auto trashed = state.context_.store.trash(old);
-        if (const auto* const error = std::get_if<FileError>(&trashed))
-            state.toast(couldNotText(old.name, "moved to the Trash", error->why), kForCounts);
-        else
-            state.toast(savedToPickerText(state.title()) + std::string(kOldListInTrash),
-                        kForCounts);
+        state.context_.store.trash(
+            old, whileAlive(state.alive_, [&state, old](
+                                              const std::variant<TrashedFile, FileError>& trashed) {
+                if (const auto* const error = std::get_if<FileError>(&trashed))
+                    state.toast(couldNotText(old.name, "moved to the Trash", error->why),
+                                kForCounts);
+                else
+                    state.toast(savedToPickerText(state.title()) + std::string(kOldListInTrash),
+                                kForCounts);
+            }));
     });
 }
 
 void AppState::Installing::installCopy(AppState& state, const std::string& as, Clash clash) {
-    const auto result = state.context_.store.save(state.colors(), state.names(), as, clash);
-    sayInstalled(state, as, result, savedToPickerText);
+    state.context_.store.save({state.colors(), state.names()}, as, clash,
+                              sayInstalled(state, as, savedToPickerText));
 }
 
-void AppState::Installing::sayInstalled(AppState& state, std::string_view as,
-                                        const std::variant<PaletteStore::Saved, FileError>& result,
-                                        const Said& said) {
-    PaletteQuestions::sayInstalled(state.context_.services, state.context_.windows, state.place(),
-                                   as, result, said);
+PaletteStore::SaveDone AppState::Installing::sayInstalled(const AppState& state,
+                                                          std::string_view as, Said said) {
+    return PaletteQuestions::sayInstalled(state.context_.services, state.context_.windows,
+                                          state.place(), as, std::move(said));
 }
 
 void AppState::installFor(const InstallTarget& target) {
@@ -197,9 +209,10 @@ void AppState::installFor(const InstallTarget& target) {
 
 void AppState::Installing::installInto(AppState& state, const InstallTarget& target,
                                        const std::string& as, Clash clash) {
-    sayInstalled(state, as,
-                 state.context_.store.install(state.colors(), state.names(), as, target, clash),
-                 [&](std::string_view name) { return installedText(name, target.title); });
+    state.context_.store.install({state.colors(), state.names()}, as, target, clash,
+                                 sayInstalled(state, as, [target](std::string_view name) {
+                                     return installedText(name, target.title);
+                                 }));
 }
 
 } // namespace tintra

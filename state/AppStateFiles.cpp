@@ -34,6 +34,8 @@ struct AppState::Loading {
     static void askFileName(AppState& state, NameQuestion question,
                             void (AppState::*then)(std::string_view));
     static void moveTo(AppState& state, PaletteAttachment file);
+    /// Of a file that has gone to the Trash, and that has come back.
+    static void letGo(AppState& state, const PaletteAttachment& file);
     static void takeBack(AppState& state, const PaletteAttachment& file);
 };
 
@@ -252,13 +254,16 @@ void AppState::duplicatePalette(std::string_view as) {
         toast(SaveTexts::couldNotDuplicateText(title()), kForCounts);
         return;
     }
-    std::error_code ignored;
-    if (std::filesystem::exists(context_.store.placeOfCopy(entry, as), ignored))
-        toast(SaveTexts::alreadyThereText(as), kForCounts);
-    else if (context_.store.duplicate(entry, as))
-        toast(SaveTexts::couldNotDuplicateText(title()), kForCounts);
-    else
-        toast(SaveTexts::duplicatedText(title(), as), kBriefly);
+    context_.store.duplicate(entry, as,
+                             whileAlive(alive_, [this, from = title(), as = std::string(as)](
+                                                    const std::optional<FileError>& error) {
+                                 if (error && error->isTaken)
+                                     toast(SaveTexts::alreadyThereText(as), kForCounts);
+                                 else if (error)
+                                     toast(SaveTexts::couldNotDuplicateText(from), kForCounts);
+                                 else
+                                     toast(SaveTexts::duplicatedText(from, as), kBriefly);
+                             }));
 }
 
 void AppState::renamePalette() {
@@ -276,19 +281,24 @@ void AppState::renamePalette() {
 void AppState::renamePalette(std::string_view to) {
     const auto from = currentPaletteURL();
     if (!from || to == title()) return;
-    const auto entry = entryOfFile();
-    const auto there = context_.store.placeOfCopy(entry, to);
-    std::error_code ignored;
     if (auto refused = whyUnfit(to)) {
         toast(*std::move(refused), kForCounts);
-    } else if (std::filesystem::exists(there, ignored)) {
-        toast(SaveTexts::alreadyThereText(to), kForCounts);
-    } else if (const auto error = context_.store.rename(entry, to)) {
-        toast(SaveTexts::couldNotText(from->filename().string(), "renamed", error->why),
-              kForCounts);
-    } else {
-        Loading::moveTo(*this, {std::string(to), there});
+        return;
     }
+    const auto entry = entryOfFile();
+    const auto there = context_.store.placeOfCopy(entry, to);
+    context_.store.rename(
+        entry, to,
+        whileAlive(alive_, [this, from = *from, to = std::string(to),
+                            there](const std::optional<FileError>& error) {
+            if (error && error->isTaken)
+                toast(SaveTexts::alreadyThereText(to), kForCounts);
+            else if (error)
+                toast(SaveTexts::couldNotText(from.filename().string(), "renamed", error->why),
+                      kForCounts);
+            else if (currentPaletteURL() == from)
+                Loading::moveTo(*this, {to, there});
+        }));
 }
 
 /// The file is another one by name only, so what is known of its state stays true.
@@ -313,32 +323,21 @@ void AppState::attach(PaletteAttachment to) {
 void AppState::trashPalette() {
     const auto attached = attachment_.value();
     if (!attached || attached->url.empty()) return;
-    const auto file = attached->url.filename().string();
-    const auto result = context_.store.trash(entryOfFile());
-    if (const auto* const error = std::get_if<FileError>(&result)) {
-        toast(SaveTexts::couldNotText(file, "moved to the Trash", error->why), kForCounts);
-        return;
-    }
-    {
-        const UpdateGroup group;
-        attachment_ = std::nullopt;
-        loadedVersion_ = {};
-        context_.windows.paletteChanged(*this);
-    }
-    toast(
-        SaveTexts::trashedText(file), kForCounts, place(),
-        ToastAction{"Undo", [this, alive = std::weak_ptr(alive_), context = context_, at = place(),
-                             trashed = std::get<TrashedFile>(result), attached = *attached] {
-                        // The file comes back also when its window is gone.
-                        const auto error = context.store.putBack(trashed);
-                        if (error)
-                            context.services.toasts.show(
-                                SaveTexts::couldNotText(trashed.original.filename().string(),
-                                                        "put back", error->why),
-                                kForCounts, {}, at);
-                        else if (!alive.expired())
-                            Loading::takeBack(*this, attached);
-                    }});
+    context_.store.trash(
+        entryOfFile(),
+        PaletteQuestions::sayTrashed(
+            context_.services, context_.store, place(), attached->url.filename().string(),
+            whileAlive(alive_, [this, attached = *attached] { Loading::letGo(*this, attached); }),
+            whileAlive(alive_,
+                       [this, attached = *attached] { Loading::takeBack(*this, attached); })));
+}
+
+void AppState::Loading::letGo(AppState& state, const PaletteAttachment& file) {
+    if (state.attachment_.value() != file) return;
+    const UpdateGroup group;
+    state.attachment_ = std::nullopt;
+    state.loadedVersion_ = {};
+    state.context_.windows.paletteChanged(state);
 }
 
 void AppState::Loading::takeBack(AppState& state, const PaletteAttachment& file) {

@@ -30,6 +30,11 @@ std::string nameOf(const std::string& key) {
     return std::filesystem::path(key).filename().string();
 }
 
+PaletteStore::Content contentOf(const PaletteEntry& entry) {
+    return entry.palette ? PaletteStore::Content::of(entry.palette->swatches)
+                         : PaletteStore::Content();
+}
+
 } // namespace
 
 LibraryFiles::LibraryFiles(Services& services, Preferences& preferences, PaletteStore& store,
@@ -51,16 +56,6 @@ const PaletteEntry* LibraryFiles::entry(const std::string& key, bool toBeRead) c
     if (found && (!toBeRead || canOpen(*found))) return found;
     say(unreadableText(found ? fileNameOf(*found) : nameOf(key)), kForCounts);
     return nullptr;
-}
-
-LibraryFiles::Content LibraryFiles::contentOf(const PaletteEntry& entry) {
-    Content content;
-    if (!entry.palette) return content;
-    for (const auto& swatch : entry.palette->swatches) {
-        content.colors.push_back(swatch.color);
-        content.names.push_back(swatch.name);
-    }
-    return content;
 }
 
 void LibraryFiles::open(const std::string& key) {
@@ -94,30 +89,21 @@ void LibraryFiles::duplicate(const std::string& key) {
 void LibraryFiles::copyAs(const std::string& key, const std::string& name) {
     const auto* found = entry(key, false);
     if (!found) return;
-    const auto original = found->name;
-    if (store_.duplicate(PaletteEntry(*found), name))
-        say(couldNotDuplicateText(original), kForCounts);
-    else
-        say(duplicatedText(original, name), kBriefly);
+    store_.duplicate(*found, name,
+                     [&services = services_, place = place_, original = found->name,
+                      name](const std::optional<FileError>& error) {
+                         services.toasts.show(error ? couldNotDuplicateText(original)
+                                                    : duplicatedText(original, name),
+                                              error ? kForCounts : kBriefly, {}, place);
+                     });
 }
 
 void LibraryFiles::trash(const std::string& key) {
     const auto* found = entry(key, false);
     if (!found) return;
-    const auto file = fileNameOf(*found);
-    const auto result = store_.trash(*found);
-    if (const auto* const error = std::get_if<FileError>(&result)) {
-        say(couldNotText(file, "moved to the Trash", error->why), kForCounts);
-        return;
-    }
-    // The file comes back also when the window is gone.
-    say(trashedText(file), kForCounts,
-        ToastAction{"Undo", [&store = store_, &services = services_, at = place_, file,
-                             trashed = std::get<TrashedFile>(result)] {
-                        if (const auto error = store.putBack(trashed))
-                            services.toasts.show(couldNotText(file, "put back", error->why),
-                                                 kForCounts, {}, at);
-                    }});
+    const auto nothing = [] {};
+    store_.trash(*found, PaletteQuestions::sayTrashed(services_, store_, place_, fileNameOf(*found),
+                                                      nothing, nothing));
 }
 
 void LibraryFiles::reveal(const std::string& key) {
@@ -129,9 +115,9 @@ void LibraryFiles::installInColourPicker(const std::string& key) {
     const auto install = [this, key](const std::string& as, Clash clash) {
         const auto* found = entry(key, true);
         if (!found) return;
-        const auto [colors, names] = contentOf(*found);
-        PaletteQuestions::sayInstalled(services_, workspaces_, place_, as,
-                                       store_.save(colors, names, as, clash), savedToPickerText);
+        store_.save(
+            contentOf(*found), as, clash,
+            PaletteQuestions::sayInstalled(services_, workspaces_, place_, as, savedToPickerText));
     };
     PaletteQuestions::withColorsFolder(
         services_, preferences_, store_, place_, alive_, [this, key, install](bool granted) {
@@ -150,11 +136,11 @@ void LibraryFiles::installFor(const std::string& key, const InstallTarget& targe
         [this, key, target](const std::string& as, Clash clash) {
             const auto* found = entry(key, true);
             if (!found) return;
-            const auto [colors, names] = contentOf(*found);
-            PaletteQuestions::sayInstalled(
-                services_, workspaces_, place_, as,
-                store_.install(colors, names, as, target, clash),
-                [&](std::string_view name) { return installedText(name, target.title); });
+            store_.install(contentOf(*found), as, target, clash,
+                           PaletteQuestions::sayInstalled(
+                               services_, workspaces_, place_, as, [target](std::string_view name) {
+                                   return installedText(name, target.title);
+                               }));
         });
 }
 

@@ -48,12 +48,6 @@ private:
     const PaletteEntry* entry(const std::string& key, bool toBeRead) const;
     void copyAs(const std::string& key, const std::string& name);
     void say(std::string text, double seconds, std::optional<ToastAction> action = {}) const;
-    /// The swatches of an entry.
-    struct Content {
-        std::vector<WashColor> colors;
-        std::vector<std::optional<std::string>> names;
-    };
-    static Content contentOf(const PaletteEntry& entry);
 
     Services& services_;
     Preferences& preferences_;

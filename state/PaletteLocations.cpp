@@ -53,6 +53,33 @@ void PaletteLocations::add(const std::filesystem::path& folder) {
     whenUnwatched(folder, {}, [this, folder] { append(folder); });
 }
 
+void PaletteLocations::addFolders(std::vector<std::filesystem::path> among) {
+    struct Found {
+        std::vector<std::filesystem::path> folders;
+        std::string missing; ///< the name of one that is not there
+    };
+    inBackground(
+        services_, alive_,
+        [among = std::move(among)] {
+            Found found;
+            std::error_code ignored;
+            for (const auto& file : among)
+                if (std::filesystem::is_directory(file, ignored))
+                    found.folders.push_back(file);
+                else if (!std::filesystem::exists(file, ignored))
+                    found.missing = nicknameOf(file);
+            return found;
+        },
+        [this](const Found& found) {
+            for (const auto& folder : found.folders)
+                add(folder);
+            if (!found.folders.empty()) return;
+            services_.toasts.show(found.missing.empty() ? std::string(SaveTexts::kChooseFolder)
+                                                        : SaveTexts::unreadableText(found.missing),
+                                  kForExplaining, {}, place_);
+        });
+}
+
 void PaletteLocations::append(const std::filesystem::path& folder) {
     auto locations = preferences_.paletteLocations.value();
     locations.push_back({.id = services_.chance.uuid(),

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tintra {
 
@@ -25,6 +26,8 @@ public:
     void add();
     /// A folder that is already watched, by whatever path, is refused with a notice.
     void add(const std::filesystem::path& folder);
+    /// The same of every folder among files that were dropped; without any it says so.
+    void addFolders(std::vector<std::filesystem::path> among);
     void remove(const Uuid& id);
     /// Asks where the folder is now.
     void rechoose(const Uuid& id);

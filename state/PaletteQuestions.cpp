@@ -106,19 +106,47 @@ void askInstallName(Services& services, NameQuestion question, std::string propo
         }));
 }
 
-void sayInstalled(Services& services, PaletteWindows& windows, ToastPlace over, std::string_view as,
-                  const std::variant<PaletteStore::Saved, FileError>& result,
-                  const std::function<std::string(std::string_view name)>& said) {
-    if (const auto* const error = std::get_if<FileError>(&result)) {
-        services.toasts.show(couldNotText(as, "saved", error->why), kForCounts, {}, over);
-        return;
-    }
-    const auto& saved = std::get<PaletteStore::Saved>(result);
-    auto text = said(saved.name);
-    if (saved.oldIsInTrash) text += kOldListInTrash;
-    // It may have replaced the list that a window shows.
-    static_cast<void>(windows.saved(saved.file));
-    services.toasts.show(std::move(text), kForCounts, {}, over);
+PaletteStore::SaveDone sayInstalled(Services& services, PaletteWindows& windows, ToastPlace over,
+                                    std::string_view as,
+                                    std::function<std::string(std::string_view name)> said) {
+    return [&services, &windows, over, as = std::string(as),
+            said = std::move(said)](const std::variant<PaletteStore::Saved, FileError>& result) {
+        if (const auto* const error = std::get_if<FileError>(&result)) {
+            services.toasts.show(couldNotText(as, "saved", error->why), kForCounts, {}, over);
+            return;
+        }
+        const auto& saved = std::get<PaletteStore::Saved>(result);
+        auto text = said(saved.name);
+        if (saved.oldIsInTrash) text += kOldListInTrash;
+        // It may have replaced the list that a window shows.
+        static_cast<void>(windows.saved(saved.file));
+        services.toasts.show(std::move(text), kForCounts, {}, over);
+    };
+}
+
+PaletteStore::TrashDone sayTrashed(Services& services, PaletteStore& store, ToastPlace over,
+                                   std::string file, std::function<void()> went,
+                                   std::function<void()> back) {
+    const auto say = [&services, over, file](std::string_view done, const FileError& error) {
+        services.toasts.show(couldNotText(file, done, error.why), kForCounts, {}, over);
+    };
+    return [&services, &store, over, file, say, went = std::move(went),
+            back = std::move(back)](const std::variant<TrashedFile, FileError>& result) {
+        if (const auto* const error = std::get_if<FileError>(&result)) {
+            say("moved to the Trash", *error);
+            return;
+        }
+        went();
+        const auto putBack = [&store, say, back, trashed = std::get<TrashedFile>(result)] {
+            store.putBack(trashed, [say, back](const std::optional<FileError>& error) {
+                if (error)
+                    say("put back", *error);
+                else
+                    back();
+            });
+        };
+        services.toasts.show(trashedText(file), kForCounts, ToastAction{"Undo", putBack}, over);
+    };
 }
 
 } // namespace tintra::PaletteQuestions

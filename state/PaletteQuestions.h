@@ -9,7 +9,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
 
 // What is asked, and said afterwards, when a palette is copied or installed, whichever window it is
 // done from. `alive` is the token of whoever asks: answers that come after its end are dropped.
@@ -43,11 +42,18 @@ void askInstallName(Services& services, NameQuestion question, std::string propo
                     ToastPlace over, const std::shared_ptr<bool>& alive,
                     std::function<void(std::string as, PaletteStore::Clash clash)> then);
 
-/// The notice about what became of an installation; `said` tells it of a name. Windows that show
-/// the file learn that it was replaced.
-void sayInstalled(Services& services, PaletteWindows& windows, ToastPlace over, std::string_view as,
-                  const std::variant<PaletteStore::Saved, FileError>& result,
-                  const std::function<std::string(std::string_view name)>& said);
+/// Shows the notice about what became of an installation, also when whoever asked is gone by then;
+/// `said` tells it of a name. Windows that show the file learn that it was replaced. Services and
+/// windows outlive the store.
+PaletteStore::SaveDone sayInstalled(Services& services, PaletteWindows& windows, ToastPlace over,
+                                    std::string_view as,
+                                    std::function<std::string(std::string_view name)> said);
+
+/// Shows the notice about what became of a file that was to go to the Trash. It offers to put the
+/// file back, also when whoever asked is gone by then. `went` and `back` are told of either.
+PaletteStore::TrashDone sayTrashed(Services& services, PaletteStore& store, ToastPlace over,
+                                   std::string file, std::function<void()> went,
+                                   std::function<void()> back);
 
 } // namespace PaletteQuestions
 } // namespace tintra

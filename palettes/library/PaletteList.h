@@ -49,6 +49,8 @@ public:
     std::size_t filesRead() const;
     PaletteCache& cache() { return *cache_; }
 
+    /// Tells of a change, once a turn of the loop.
+    void changed();
     /// Takes an entry out whose file has gone.
     void remove(const std::string& key);
 
@@ -70,7 +72,6 @@ private:
     void replace(Part& part, std::vector<PaletteEntry> fresh);
     void folderChanged(const std::filesystem::path& folder);
     void dropAside(std::vector<PaletteEntry> entries);
-    void changed();
 
     MainLoop& mainLoop_;
     Background& background_;

@@ -67,10 +67,38 @@ protected:
             if (entry.name == name) return entry;
         throw std::out_of_range(name);
     }
-    PaletteStore::Saved save(const char* name, Clash clash) {
-        auto saved = store.save(std::vector{WashColor{1, 0, 0, 0.5}}, {}, name, clash);
+    using Error = std::optional<FileError>;
+    using Saved = std::variant<PaletteStore::Saved, FileError>;
+    using Trashed = std::variant<TrashedFile, FileError>;
+    /// What is told of something that is done beside the main loop.
+    template <class Told, class Act>
+    Told done(Act act) {
+        std::optional<Told> told;
+        act([&](const Told& what) { told = what; });
         desktop.loop.turn();
-        return std::get<PaletteStore::Saved>(saved);
+        return told.value();
+    }
+    PaletteStore::Saved save(const char* name, Clash clash) {
+        return std::get<PaletteStore::Saved>(done<Saved>([&](auto then) {
+            store.save({{{1, 0, 0, 0.5}}, {}}, name, clash, then);
+        }));
+    }
+    Saved install(PaletteStore& into, Clash clash) {
+        return done<Saved>([&](auto then) {
+            into.install({{{1, 0, 0, 1}}, {}}, "Brand", {"GIMP", folder / "GIMP"}, clash, then);
+        });
+    }
+    Error duplicate(const char* name, const std::string& as) {
+        return done<Error>([&](auto then) { store.duplicate(named(name), as, then); });
+    }
+    Error rename(const char* name, const std::string& to) {
+        return done<Error>([&](auto then) { store.rename(named(name), to, then); });
+    }
+    Trashed trash(const char* name) {
+        return done<Trashed>([&](auto then) { store.trash(named(name), then); });
+    }
+    Error putBack(const TrashedFile& file) {
+        return done<Error>([&](auto then) { store.putBack(file, then); });
     }
 
     const TemporaryFolder folder;
@@ -241,12 +269,11 @@ TEST_F(PaletteStoreTest, SavesListsWithAPaletteBesideThemAndNeverOverwrites) {
     EXPECT_EQ(folder.content("colors/Brand 50-50.gpl"), old);
     const auto trashed = store.trashedThisSession();
     ASSERT_EQ(trashed.size(), 1U);
-    EXPECT_TRUE(store.putBack(trashed[0])) << "its place is taken";
-    ASSERT_TRUE(std::holds_alternative<TrashedFile>(store.trash(named("Brand 50-50"))));
+    EXPECT_TRUE(putBack(trashed[0])) << "its place is taken";
+    ASSERT_TRUE(std::holds_alternative<TrashedFile>(trash("Brand 50-50")));
     EXPECT_FALSE(fs::exists(folder / "colors/Brand 50-50.gpl"));
     EXPECT_FALSE(store.hasNamed("Brand 50/50"));
-    EXPECT_FALSE(store.putBack(trashed[0]));
-    desktop.loop.turn();
+    EXPECT_FALSE(putBack(trashed[0]));
     EXPECT_TRUE(store.hasNamed("Brand 50/50"));
     EXPECT_EQ(folder.content("colors/Brand 50-50.gpl"), kTwo) << "what stood beside it comes too";
     EXPECT_EQ(store.trashedThisSession().size(), 1U);
@@ -262,39 +289,61 @@ TEST_F(PaletteStoreTest, AFailedReplacementLeavesEverythingAsItWas) {
                         folder / "colors",
                         {},
                         {}});
-    const std::vector<WashColor> red{{1, 0, 0, 1}};
-    const auto result = other.install(red, {}, "Brand", {"GIMP", folder / "GIMP"}, Clash::replace);
-    EXPECT_EQ(std::get<FileError>(result).why, "refused");
+    EXPECT_EQ(std::get<FileError>(install(other, Clash::replace)).why, "refused");
     EXPECT_EQ(folder.content("GIMP/Brand.gpl"), kTwo);
     EXPECT_EQ(std::distance(fs::directory_iterator(folder / "GIMP"), {}), 1) << "no rest is left";
+    watch({});
     ASSERT_THAT(store.installTargets(), ElementsAre(InstallTarget{"GIMP", folder / "GIMP"}));
-    const auto both = store.install(red, {}, "Brand", store.installTargets()[0], Clash::keepBoth);
-    EXPECT_EQ(std::get<PaletteStore::Saved>(both).file, folder / "GIMP/Brand 2.gpl");
-    EXPECT_FALSE(std::get<FileError>(store.save({}, {}, "Empty", Clash::replace)).why.empty());
+    EXPECT_EQ(std::get<PaletteStore::Saved>(install(store, Clash::keepBoth)).file,
+              folder / "GIMP/Brand 2.gpl");
+    const auto empty =
+        done<Saved>([&](auto then) { store.save({}, "Empty", Clash::replace, then); });
+    EXPECT_FALSE(std::get<FileError>(empty).why.empty());
 }
 
 TEST_F(PaletteStoreTest, CopiesAndNamesStayInTheirFolder) {
     folder.write("watched/Red.gpl", kRed);
     folder.write("watched/Two.gpl", kTwo);
     watch({location("watched")}, true);
-    EXPECT_TRUE(store.duplicate(named("Red"), "Two")) << "there is one";
-    EXPECT_TRUE(store.rename(named("Red"), "Two"));
+    EXPECT_TRUE(duplicate("Red", "Two")->isTaken);
+    EXPECT_TRUE(rename("Red", "Two")->isTaken);
     EXPECT_EQ(folder.content("watched/Two.gpl"), kTwo);
     for (const auto* unfit : {"", " ", "a/b", ".red", "..", "a\nb"}) {
-        EXPECT_TRUE(store.duplicate(named("Red"), unfit)) << unfit;
-        EXPECT_TRUE(store.rename(named("Red"), unfit)) << unfit;
+        EXPECT_TRUE(duplicate("Red", unfit)) << unfit;
+        EXPECT_TRUE(rename("Red", unfit)) << unfit;
     }
-    EXPECT_TRUE(store.rename(named("Red"), std::string(300, 'x')));
-    EXPECT_FALSE(store.duplicate(named("Red"), "Copy of Red"));
-    EXPECT_FALSE(store.rename(named("Two"), "Three"));
-    EXPECT_FALSE(store.duplicate(named("Web Safe Colours"), "Mine"));
-    EXPECT_TRUE(store.rename(named("Web Safe Colours"), "Theirs"));
-    EXPECT_TRUE(std::holds_alternative<FileError>(store.trash(named("Web Safe Colours"))));
+    EXPECT_TRUE(rename("Red", std::string(300, 'x')));
+    EXPECT_FALSE(duplicate("Red", "Copy of Red"));
+    EXPECT_FALSE(rename("Two", "Three"));
+    EXPECT_FALSE(duplicate("Web Safe Colours", "Mine"));
+    EXPECT_TRUE(rename("Web Safe Colours", "Theirs"));
+    EXPECT_TRUE(std::holds_alternative<FileError>(trash("Web Safe Colours")));
     desktop.loop.turn();
     EXPECT_THAT(names(), ElementsAre("Copy of Red", "Red", "Three", "Mine", "Web Safe Colours"));
     EXPECT_EQ(store.loadNamed("Mine")->size(), 216U);
     EXPECT_EQ(fitFileName(" ..a/b\t"), "a-b");
     EXPECT_EQ(fitFileName(std::string(239, 'x') + "é"), std::string(239, 'x'));
+}
+
+TEST_F(PaletteStoreTest, WorksOnFilesInTheBackgroundInTheOrderAsked) {
+    folder.write("watched/Red.gpl", kRed);
+    watch({location("watched")});
+    desktop.background.holds = true;
+    std::vector<std::string> told;
+    store.trash(named("Red"), [&](const auto&) { told.push_back("trashed"); });
+    store.duplicate(named("Red"), "Copy", [&](const Error& error) {
+        told.push_back(error ? "nothing to copy" : "copied");
+    });
+    store.trash(named("Red"), [&](const Trashed& result) {
+        told.push_back(std::holds_alternative<FileError>(result) ? "gone" : "trashed");
+    });
+    EXPECT_TRUE(fs::exists(folder / "watched/Red.gpl")) << "nothing is done on the main loop";
+    for (int i = 0; i < 3; ++i) {
+        desktop.background.finish();
+        desktop.loop.turn();
+    }
+    EXPECT_THAT(told, ElementsAre("trashed", "nothing to copy", "gone"));
+    EXPECT_THAT(names(), IsEmpty());
 }
 
 TEST(PaletteOrder, DateWinsOverNameOverCountAndTiesGoByName) {

@@ -13,11 +13,12 @@
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tintra {
 namespace {
 
-constexpr int kBar = 12, kStep = 52, kIcon = 16;
+constexpr int kBar = 12, kStep = 52, kIcon = 16, kDropRing = 3;
 
 } // namespace
 
@@ -313,6 +314,18 @@ void LibraryCanvas::paintButton(QPainter& painter, const CanvasItem& item, ItemS
     }
     if (isFirst) button.features = QStyleOptionButton::DefaultButton;
     style()->drawControl(QStyle::CE_PushButton, &button, &painter, this);
+}
+
+void LibraryCanvas::showDrop(bool isOver) {
+    if (std::exchange(isDropShown_, isOver) != isOver) update();
+}
+
+void LibraryCanvas::paintOverlay(QPainter& painter) {
+    if (!isDropShown_) return;
+    painter.setPen(QPen(theme().color(Token::ink), kDropRing));
+    painter.setBrush(Qt::NoBrush);
+    constexpr auto kInset = kDropRing / 2.0;
+    painter.drawRect(QRectF(rect()).adjusted(kInset, kInset, -kInset, -kInset));
 }
 
 void LibraryCanvas::hoverMoved(int item, QPointF place) {

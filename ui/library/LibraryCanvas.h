@@ -38,10 +38,13 @@ public:
     const LibraryGroup* currentGroup() const;
     /// Gives the keyboard to the current palette, or the first one.
     void takeKeyboard();
+    /// Whether what is dragged over the window would be taken.
+    void showDrop(bool isOver);
 
 protected:
     std::vector<CanvasItem> layoutItems(QSizeF size) const override;
     void paintItem(QPainter& painter, const CanvasItem& item, ItemState state) override;
+    void paintOverlay(QPainter& painter) override;
     int neighbour(int from, Qt::Key key) const override;
     void focusMoved(int item) override;
     void hoverMoved(int item, QPointF place) override;
@@ -109,6 +112,7 @@ private:
     LibraryLayout layout_;
     QScrollBar* bar_;
     std::optional<Place> place_;
+    bool isDropShown_ = false;
     int hoveredButton_ = -1, pressedButton_ = -1;
     std::optional<CanvasItem> pressed_;
     QPointF pressedAt_;

@@ -34,11 +34,14 @@ LibraryModel::LibraryModel(Ui& ui)
       listing_(std::make_unique<LibraryListing>()) {
     subscribe();
     takeUnfolded();
-    installsFor_ = !ui_.models.store().installTargets().empty();
     takeContent();
 }
 
 LibraryModel::~LibraryModel() = default;
+
+bool LibraryModel::installsFor() const {
+    return !ui_.models.store().installTargets().empty();
+}
 
 void LibraryModel::subscribe() {
     auto& preferences = ui_.models.preferences();

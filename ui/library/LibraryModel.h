@@ -37,7 +37,7 @@ public:
     /// The match of a search for a colour.
     ColourMatch match() const;
     /// There are drawing programs to install palettes for.
-    bool installsFor() const { return installsFor_; }
+    bool installsFor() const;
 
     /// In a search every group stands open at first, and what is folded then is not kept.
     bool isFolded(const LibraryGroup& group) const;
@@ -70,7 +70,6 @@ private:
     std::unique_ptr<LibraryListing> listing_;
     std::set<std::string> foldedInSearch_;
     std::optional<std::size_t> current_;
-    bool installsFor_ = false;
     std::unordered_set<std::string> unfolded_; ///< what the preferences keep, to be found quickly
     std::uint64_t turn_ = 0; ///< of questions; an answer to an earlier one is dropped
     std::unique_ptr<DelayedTask> later_;

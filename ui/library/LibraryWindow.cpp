@@ -4,11 +4,14 @@
 #include "ui/actions/Menus.h"
 #include "ui/library/LibraryFoot.h"
 #include "ui/library/LibraryTools.h"
+#include "ui/shared/ColourMime.h"
 #include "ui/shared/LocationMenu.h"
 #include "ui/shared/Text.h"
 
 #include <QCloseEvent>
 #include <QCursor>
+#include <QDropEvent>
+#include <QMimeData>
 
 namespace tintra {
 namespace {
@@ -28,6 +31,7 @@ LibraryWindow::LibraryWindow(Ui& ui)
       canvas_(new LibraryCanvas(ui, model_, this)), foot_(new LibraryFoot(ui, model_, this)) {
     setWindowTitle(worded("Library — Tintra"));
     setMinimumSize(520, 360);
+    setAcceptDrops(true);
     assemble(tools_, canvas_, foot_);
     connectTools();
     connectCanvas();
@@ -156,6 +160,26 @@ void LibraryWindow::showEvent(QShowEvent* event) {
 void LibraryWindow::closeEvent(QCloseEvent* event) {
     ui().models.workspaces().isLibraryWindowOpen = false;
     MainWindow::closeEvent(event);
+}
+
+void LibraryWindow::dragEnterEvent(QDragEnterEvent* event) {
+    // What is dragged within the program is never a folder.
+    const bool isTaken = event->mimeData()->hasUrls() && !event->source();
+    canvas_->showDrop(isTaken);
+    if (!isTaken) return;
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void LibraryWindow::dragLeaveEvent(QDragLeaveEvent*) {
+    canvas_->showDrop(false);
+}
+
+void LibraryWindow::dropEvent(QDropEvent* event) {
+    canvas_->showDrop(false);
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    locations_.addFolders(dropped(*event->mimeData()).files);
 }
 
 } // namespace tintra
