@@ -15,7 +15,6 @@
 #include "ui/shared/Text.h"
 
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QMenu>
 #include <QVBoxLayout>
 #include <array>
@@ -195,14 +194,6 @@ void BenchWindow::showEvent(QShowEvent* event) {
 void BenchWindow::closeEvent(QCloseEvent* event) {
     ui().models.bench().isWindowOpen = false;
     MainWindow::closeEvent(event);
-}
-
-void BenchWindow::keyPressEvent(QKeyEvent* event) {
-    // Back from the mix to what is mixed.
-    if (event->key() == Qt::Key_Escape && editor_->isAncestorOf(focusWidget()))
-        canvas_->setFocus(Qt::TabFocusReason);
-    else
-        MainWindow::keyPressEvent(event);
 }
 
 } // namespace tintra

@@ -35,7 +35,6 @@ protected:
     std::vector<QWidget*> regions() const override;
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void makeTools();

@@ -143,9 +143,17 @@ bool MainWindow::isOnCanvas() const {
 // Events
 
 void MainWindow::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        ui_.models.vision().front = place_;
+    if (event->type() == QEvent::ActivationChange) {
+        altAlone_ = false;
+        if (isActiveWindow()) ui_.models.vision().front = place_;
+    }
     QWidget::changeEvent(event);
+}
+
+bool MainWindow::event(QEvent* event) {
+    // A shortcut takes its key: nothing else tells that Alt was not held for itself.
+    if (event->type() == QEvent::ShortcutOverride) altAlone_ = false;
+    return QWidget::event(event);
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {

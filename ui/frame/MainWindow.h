@@ -92,6 +92,7 @@ protected:
     /// A menu that deletes itself, at a place of the screen.
     void popUp(QPoint at, const std::function<void(QMenu&)>& fill);
 
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
