@@ -13,6 +13,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <QLineEdit>
 #include <QPaintEvent>
 #include <QUrl>
@@ -74,7 +75,7 @@ TEST(BenchLayout, KeepsColumnsWholeAndMixesOnTheirBoundaries) {
             SCOPED_TRACE(std::to_string(count) + " in " + std::to_string(size.width()));
             std::vector<ColumnPair> pairs;
             if (count > 2) pairs = {{0, 1}, {0, 2}};
-            const auto places = benchPlaces(count, pairs, size);
+            const auto places = benchPlaces(count, pairs, size, 60);
             ASSERT_THAT(places.columns, SizeIs(count));
             EXPECT_EQ(places.shape == SwatchShape::onSide,
                       places.group.width() / double(count) < 76);
@@ -211,11 +212,24 @@ TEST(BenchWindowTest, TakesWhatTheDragMatrixSays) {
     OnBench on;
     const auto& third = on.state.swatches()[2];
     const PaletteOrigin origin{std::nullopt, on.state.id(), third.id, 2};
+    auto& other = on.desk.another();
+    other.addToPalette({0, 0.5, 0.5, 1}, AppState::Duplicates::refuse);
+    const auto& theirs = other.swatches()[0];
+    on.desk.notices();
     const Row rows[] = {
         {"a swatch is linked",
          {third.color, {}, DragOfSwatch{origin}},
          Kind::paletteSwatch,
          "Added "},
+        {"of another palette",
+         {theirs.color, {}, DragOfSwatch{{std::nullopt, other.id(), theirs.id, 0}}},
+         Kind::paletteSwatch,
+         "Added "},
+        {"again",
+         {theirs.color, {}, DragOfContrastEntry{theirs.id}},
+         std::nullopt,
+         "#008080 is already on the Bench, from another window"},
+        {"a seed is copied", {{1, 1, 0, 1}, {}, DragOfSeed{}}, Kind::staged, "Added "},
         {"a band is copied", {{0, 1, 0, 1}, {}, DragOfBand{}}, Kind::staged, "a copy"},
         {"a well is mixed here", {{0, 0, 1, 1}, {}, DragOfWell{}}, Kind::derived, "Added "},
         {"of Contrast", {{0, 1, 1, 1}, {}, DragOfContrastEntry{}}, Kind::staged, "Added "},
@@ -243,7 +257,9 @@ TEST(BenchWindowTest, TakesWhatTheDragMatrixSays) {
             EXPECT_EQ(on.active(), 1U);
         }
     }
-    QMimeData text, file;
+    QMimeData text, file, picture;
+    picture.setImageData(QImage(2, 2, QImage::Format_RGB32));
+    EXPECT_FALSE(drop(on.canvas, {5, 5}, picture).entered);
     text.setText(QStringLiteral("#101010\n#202020"));
     EXPECT_TRUE(drop(on.canvas, {5, 5}, text).taken);
     EXPECT_THAT(on.desk.notices(), ElementsAre("Added 2 to the Bench"));

@@ -199,14 +199,24 @@ TEST(PaletteCanvas, TakesWhatTheDragMatrixSays) {
     EXPECT_THAT(other.swatches(), SizeIs(2)) << "with Ctrl it moves";
     EXPECT_FALSE(drop(canvas, end(), *swatchOf(other, 1)).taken);
     EXPECT_THAT(desk.notices(), testing::Contains("#862E02 is already in this palette"));
-    const auto band = mimeOf({{0, 1, 1, 1}, {}, DragOfBand{}}, {});
-    EXPECT_FALSE(drop(canvas, end(), *band, Qt::ControlModifier).taken);
-    EXPECT_THAT(desk.notices(), ElementsAre("Only a palette's swatch moves · let go of ⌘ to add"));
-    EXPECT_TRUE(drop(canvas, end(), *band).taken);
+    const decltype(Drag::source) others[] = {
+        DragOfBand{}, DragOfSeed{},          DragOfBenchColumn{state.id()},
+        DragOfWell{}, DragOfLibrarySwatch{}, DragOfContrastEntry{state.id()},
+    };
+    for (std::size_t i = 0; i < std::size(others); ++i) {
+        SCOPED_TRACE(others[i].index());
+        const auto data = mimeOf({Desk::colour(100 + i), "Mine", others[i]}, {});
+        EXPECT_FALSE(drop(canvas, end(), *data, Qt::ControlModifier).taken);
+        EXPECT_THAT(desk.notices(),
+                    ElementsAre("Only a palette's swatch moves · let go of ⌘ to add"));
+        EXPECT_TRUE(drop(canvas, end(), *data).taken);
+        EXPECT_EQ(state.swatches().back().color, Desk::colour(100 + i));
+        EXPECT_EQ(state.swatches().back().name, "Mine");
+    }
     QMimeData foreign;
     foreign.setColorData(QColor(Qt::magenta));
     EXPECT_TRUE(drop(canvas, end(), foreign).taken);
-    EXPECT_THAT(state.swatches(), SizeIs(8));
+    EXPECT_THAT(state.swatches(), SizeIs(13));
 }
 
 TEST(PaletteWindow, TakesFilesAndTextAnywhere) {

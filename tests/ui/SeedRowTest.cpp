@@ -80,8 +80,23 @@ TEST_F(SeedRowTest, SeedsComeByDropAndByCode) {
     auto &first = part("First seed"), &last = part("Last seed");
     const WashColor coral{1, 0.5, 0.25, 1};
     const auto before = state.seeds().value();
-    EXPECT_TRUE(drop(first, {20, 20}, *mimeOf({coral, "Coral", DragOfBand{}}, QString())).taken);
-    EXPECT_EQ(state.first(), coral);
+    const decltype(Drag::source) sources[] = {
+        DragOfSwatch{{std::nullopt, state.id(), state.id(), 0}},
+        DragOfSeed{},
+        DragOfBenchColumn{state.id()},
+        DragOfWell{},
+        DragOfLibrarySwatch{},
+        DragOfContrastEntry{state.id()},
+        DragOfBand{},
+    };
+    for (const auto& source : sources) {
+        SCOPED_TRACE(source.index());
+        EXPECT_TRUE(drop(first, {20, 20}, *mimeOf({coral, "Coral", source}, QString())).taken);
+        EXPECT_EQ(state.first(), coral);
+        desk.models.undo().undo(state.place());
+        EXPECT_EQ(state.seeds().value(), before);
+    }
+    drop(first, {20, 20}, *mimeOf({coral, "Coral", DragOfBand{}}, QString()));
     QMimeData text;
     text.setText(QStringLiteral("#102030\n#405060"));
     EXPECT_TRUE(drop(last, {20, 20}, text).taken);

@@ -119,7 +119,7 @@ void BenchCanvas::layOutAnew() {
 
 void BenchCanvas::setWhole() {
     const QSizeF visible(parentWidget() ? parentWidget()->width() : width(), height());
-    const auto whole = benchPlaces(bench_.benchColumns().size(), {}, visible).width;
+    const auto whole = benchPlaces(bench_.benchColumns().size(), {}, visible, 0).width;
     // The least width makes the scroll area scroll; a height of its own would not follow it.
     const auto least = whole > visible.width() ? static_cast<int>(whole) : 0;
     if (least != minimumWidth()) setMinimumWidth(least);
@@ -221,7 +221,9 @@ std::vector<CanvasItem> BenchCanvas::emptyItems(QSizeF size) const {
 
 std::vector<CanvasItem> BenchCanvas::layoutItems(QSizeF size) const {
     const auto& content = bench_.content().value();
-    stand_ = benchPlaces(content.columns.size(), pairsOf(content), size);
+    constexpr int kAround = 16; ///< the words at the foot of a column
+    const auto words = theme().lineHeight(TextStyle::name) + theme().lineHeight(TextStyle::code);
+    stand_ = benchPlaces(content.columns.size(), pairsOf(content), size, words + kAround);
     if (content.columns.empty()) return emptyItems(size);
     std::vector<CanvasItem> items;
     for (std::size_t i = 0; i < content.columns.size(); ++i)

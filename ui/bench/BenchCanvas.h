@@ -91,7 +91,7 @@ private:
     // Painting
     SwatchLook look(const CanvasItem& item) const;
     void paintColumn(QPainter& painter, const CanvasItem& item, ItemState state) const;
-    void paintBadge(QPainter& painter, const CanvasItem& item) const;
+    void paintBadge(QPainter& painter, const CanvasItem& item, qreal name) const;
     void paintFigure(QPainter& painter, const CanvasItem& item) const;
     void paintMix(QPainter& painter, const CanvasItem& item, ItemState state) const;
     void paintWell(QPainter& painter, const CanvasItem& item, ItemState state) const;

@@ -2,7 +2,6 @@
 
 #include "state/Models.h"
 #include "ui/bench/BenchCanvas.h"
-#include "ui/palette/SwatchLayout.h"
 #include "ui/shared/Beginning.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Figures.h"
@@ -37,6 +36,7 @@ SwatchLook BenchCanvas::look(const CanvasItem& item) const {
     look.selected = item.selected;
     look.codeFlashes = flashing_ && flashing_->id == of.id;
     look.hidesName = field_ && !field_->isHidden() && item.selected;
+    look.clearTop = stand_.clearTop;
     look.leftBehind = bench_.draggingBenchColumn.value() == of.id;
     // There is room for the digits only; what is copied has the mark.
     if (look.shape == SwatchShape::onSide && look.code.startsWith(u'#')) look.code.remove(0, 1);
@@ -61,7 +61,7 @@ void BenchCanvas::paintColumn(QPainter& painter, const CanvasItem& item, ItemSta
                  .pressed = state.hovered && pressedButton_ == static_cast<int>(i)});
     ui_.painter.paint(painter, item.rect, drawn);
     if (drawn.leftBehind) return;
-    paintBadge(painter, item);
+    paintBadge(painter, item, ui_.painter.nameRect(item.rect, drawn).top());
     if (!drawn.selected) return;
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme().color(Token::ink));
@@ -70,7 +70,8 @@ void BenchCanvas::paintColumn(QPainter& painter, const CanvasItem& item, ItemSta
         kBar / 2);
 }
 
-void BenchCanvas::paintBadge(QPainter& painter, const CanvasItem& item) const {
+/// None where there is no room for it above the name.
+void BenchCanvas::paintBadge(QPainter& painter, const CanvasItem& item, qreal name) const {
     constexpr int kIcon = 16;
     constexpr qreal kGap = 6;
     const auto& of = columnAt(item.index);
@@ -79,6 +80,7 @@ void BenchCanvas::paintBadge(QPainter& painter, const CanvasItem& item) const {
     const bool isNarrow = stand_.shape == SwatchShape::onSide;
     auto place = item.rect.adjusted(kInset, kInset, -kInset, 0);
     place.setHeight(theme().lineHeight(TextStyle::caption));
+    if (place.bottom() > name) return;
     if (isAttached) {
         const auto left = isNarrow ? item.rect.center().x() - kIcon / 2.0 : place.left();
         painter.drawPixmap(QPointF(left, place.center().y() - kIcon / 2.0),

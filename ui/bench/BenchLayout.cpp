@@ -13,6 +13,7 @@ constexpr qreal kMix = 32, kSmallMix = 24;
 constexpr qreal kFigureTop = 64, kFigureHeight = 24, kFigureWidth = 44, kSmallFigureWidth = 36;
 constexpr qreal kLeastForFigures = 170; ///< height of the columns
 constexpr qreal kMiddle = 0.52;         ///< of the height, where mixes stand
+constexpr qreal kBadge = 32, kGap = 4;  ///< what a badge takes from the top
 
 QRectF around(QPointF centre, qreal width, qreal height) {
     return QRectF(std::round(centre.x() - width / 2), std::round(centre.y() - height / 2), width,
@@ -33,20 +34,21 @@ qreal covered(const QRectF& disc, const std::vector<QRectF>& others) {
 
 class Placing {
 public:
-    Placing(BenchPlaces& places, qreal top, qreal height)
+    Placing(BenchPlaces& places, qreal top, qreal height, qreal words)
         : places_(places), top_(top), height_(height),
-          disc_(std::clamp(std::min(places.columnWidth() - kAround, height * 0.6), kLeastDisc,
-                           kDisc)) {}
+          isNarrow_(places.shape == SwatchShape::onSide), isLow_(height < kLeastForFigures),
+          foot_(isNarrow_ ? height * 0.2 : words),
+          disc_(std::clamp(std::min(places.columnWidth() - kAround, height - kBadge - foot_),
+                           kLeastDisc, kDisc)) {}
 
     void boundaries() {
-        const bool narrow = places_.shape == SwatchShape::onSide;
-        const auto wide = narrow ? kSmallFigureWidth : kFigureWidth;
-        const auto mix = narrow ? kSmallMix : kMix;
+        const auto wide = isNarrow_ ? kSmallFigureWidth : kFigureWidth;
+        const auto mix = isNarrow_ || isLow_ ? kSmallMix : kMix;
+        places_.clearTop = isLow_ ? kBadge : kFigureTop + kFigureHeight + kGap;
         for (std::size_t i = 0; i + 1 < places_.columns.size(); ++i) {
-            const QPointF middle(boundary(i), top_ + kMiddle * height_);
-            places_.mixes.push_back(around(middle, mix, mix));
-            const QRectF figure(middle.x() - wide / 2, top_ + kFigureTop, wide, kFigureHeight);
-            places_.figures.push_back(height_ >= kLeastForFigures ? figure : QRectF());
+            places_.mixes.push_back(onBoundary(i, mix));
+            const QRectF figure(boundary(i) - wide / 2, top_ + kFigureTop, wide, kFigureHeight);
+            places_.figures.push_back(isLow_ ? QRectF() : figure);
         }
     }
 
@@ -56,8 +58,7 @@ public:
         for (std::size_t i = 0; i < pairs.size(); ++i) {
             const auto [left, right] = pairs[i];
             if (right != left + 1) continue;
-            places_.wells[i] =
-                around(QPointF(boundary(left), top_ + kMiddle * height_), disc_, disc_);
+            places_.wells[i] = onBoundary(left, disc_);
             places_.mixes[left] = {};
             taken_.push_back(places_.wells[i]);
         }
@@ -73,15 +74,23 @@ public:
 private:
     qreal boundary(std::size_t i) const { return places_.columns[i].right(); }
 
+    /// A circle on a boundary, above the words beside it.
+    QRectF onBoundary(std::size_t i, qreal size) const {
+        const auto middle = std::min(kMiddle * height_, height_ - foot_ - size / 2);
+        return around(QPointF(boundary(i), top_ + std::max(middle, size / 2)), size, size);
+    }
+
     /// Midway between two columns, moved up and down to where it covers least.
     QRectF free(const ColumnPair& pair) const {
         const auto x =
             (places_.columns[pair.first].center().x() + places_.columns[pair.second].center().x()) /
             2;
-        static constexpr std::array kHeights{kMiddle, 0.66, 0.38, 0.76, 0.3};
+        // Names on their side stand below the middle.
+        static constexpr std::array kWideHeights{kMiddle, 0.66, 0.38, 0.76, 0.3},
+            kNarrowHeights{0.38, 0.3, 0.66, 0.76, kMiddle};
         QRectF best;
         qreal least = -1;
-        for (const auto at : kHeights) {
+        for (const auto at : isNarrow_ ? kNarrowHeights : kWideHeights) {
             const auto disc = around(QPointF(x, top_ + at * height_), disc_, disc_);
             const auto over = covered(disc, taken_);
             if (least >= 0 && over >= least) continue;
@@ -92,13 +101,16 @@ private:
     }
 
     BenchPlaces& places_;
-    const qreal top_, height_, disc_;
+    const qreal top_, height_;
+    const bool isNarrow_, isLow_;
+    const qreal foot_, disc_;
     std::vector<QRectF> taken_;
 };
 
 } // namespace
 
-BenchPlaces benchPlaces(std::size_t columns, const std::vector<ColumnPair>& pairs, QSizeF size) {
+BenchPlaces benchPlaces(std::size_t columns, const std::vector<ColumnPair>& pairs, QSizeF size,
+                        qreal words) {
     BenchPlaces places;
     if (columns == 0) return places;
     const auto count = static_cast<qreal>(columns);
@@ -112,7 +124,7 @@ BenchPlaces benchPlaces(std::size_t columns, const std::vector<ColumnPair>& pair
     };
     for (std::size_t i = 0; i < columns; ++i)
         places.columns.emplace_back(edge(i), kMargin, edge(i + 1) - edge(i), height);
-    Placing placing(places, kMargin, height);
+    Placing placing(places, kMargin, height, words);
     placing.boundaries();
     placing.wells(pairs);
     return places;

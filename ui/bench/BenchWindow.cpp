@@ -13,6 +13,7 @@
 #include "ui/shared/CanvasScroll.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Text.h"
+#include "ui/shared/Theme.h"
 
 #include <QCloseEvent>
 #include <QMenu>
@@ -89,6 +90,7 @@ void BenchWindow::subscribe() {
         syncEditor();
     });
     subscriptions_.add(bench.benchActive, [this] { syncEditor(); });
+    subscriptions_.add(ui().theme.version(), [this] { syncHeights(); });
     subscriptions_.add(ui().models.undo().version, [this] { tools_->sync(); });
 }
 
@@ -113,6 +115,15 @@ void BenchWindow::syncEditor() {
     editor_->setVisible(edits);
     if (!edits && hadKeyboard) canvas_->setFocus(Qt::OtherFocusReason);
     tools_->sync();
+}
+
+/// Columns come before the whole of the well editor.
+void BenchWindow::syncHeights() {
+    constexpr int kLines = 84; ///< the tools and the facts, px at regular text size
+    constexpr int kLeastColumns = 200;
+    const auto& theme = ui().theme;
+    editor_->setLow(height() <
+                    theme.scaled(kLines) + theme.scaled(WellEditor::kHeight) + kLeastColumns);
 }
 
 // What actions come to
@@ -194,6 +205,11 @@ void BenchWindow::showEvent(QShowEvent* event) {
 void BenchWindow::closeEvent(QCloseEvent* event) {
     ui().models.bench().isWindowOpen = false;
     MainWindow::closeEvent(event);
+}
+
+void BenchWindow::resizeEvent(QResizeEvent* event) {
+    MainWindow::resizeEvent(event);
+    syncHeights();
 }
 
 } // namespace tintra

@@ -35,6 +35,7 @@ protected:
     std::vector<QWidget*> regions() const override;
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void makeTools();
@@ -43,6 +44,7 @@ private:
     void subscribe();
     void syncFacts();
     void syncEditor();
+    void syncHeights();
 
     ToolLine* tools_;
     QWidget* body_;

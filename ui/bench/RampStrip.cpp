@@ -1,6 +1,5 @@
 #include "ui/bench/RampStrip.h"
 
-#include "ui/palette/SwatchLayout.h"
 #include "ui/shared/SwatchPainter.h"
 #include "ui/shared/Text.h"
 #include "ui/shared/Theme.h"

@@ -89,7 +89,15 @@ void WellEditor::restyle() {
 }
 
 QSize WellEditor::sizeHint() const {
-    return {0, ui_.theme.scaled(kHeight)};
+    return {0, ui_.theme.scaled(isLow_ ? kLowHeight : kHeight)};
+}
+
+void WellEditor::setLow(bool low) {
+    if (low == isLow_) return;
+    isLow_ = low;
+    ramp_->setVisible(!low);
+    updateGeometry();
+    update();
 }
 
 const BenchWell* WellEditor::activeWell() const {
@@ -207,7 +215,7 @@ void WellEditor::paintEvent(QPaintEvent*) {
     painter.fillRect(0, 0, width(), 1, theme.color(Token::line));
     painter.setFont(theme.font(TextStyle::body));
     painter.setPen(theme.color(Token::ink2));
-    painter.drawText(rampWords_, Qt::AlignLeft | Qt::AlignVCenter, worded("Ramp"));
+    if (!isLow_) painter.drawText(rampWords_, Qt::AlignLeft | Qt::AlignVCenter, worded("Ramp"));
     if (!color_ || !hasChip()) return;
     SwatchLook look;
     look.color = *color_;

@@ -23,13 +23,16 @@ class RampStrip;
 /// on, and what can be done with it.
 class WellEditor final : public QWidget {
 public:
-    static constexpr int kHeight = 180; ///< px at regular text size
+    // px at regular text size
+    static constexpr int kHeight = 180, kLowHeight = 132;
 
     WellEditor(Ui& ui, ContextOf context, QWidget* parent);
 
     /// Shows the active well; nothing while a column is active.
     void sync();
     void focusRatio();
+    /// Without the ramp, where height is short: the track of the ratio shows the same mixes.
+    void setLow(bool low);
     /// Is told that the user is done with it: Esc was pressed.
     std::function<void()> done;
 
@@ -61,6 +64,7 @@ private:
     QPushButton *keep_, *copy_, *remove_;
     std::optional<WashColor> color_; ///< of the active well
     QString name_, code_, parents_;
+    bool isLow_ = false;
     QRect rampWords_;
     Subscriptions subscriptions_;
 };

@@ -84,11 +84,4 @@ SwatchPlaces tilePlaces(std::size_t count, QSizeF size) {
     return places;
 }
 
-std::array<int, 4> radiiWithin(const QRectF& swatch, const QRectF& group, int radius) {
-    const bool left = swatch.left() <= group.left(), right = swatch.right() >= group.right();
-    const bool top = swatch.top() <= group.top(), bottom = swatch.bottom() >= group.bottom();
-    return {left && top ? radius : 0, right && top ? radius : 0, right && bottom ? radius : 0,
-            left && bottom ? radius : 0};
-}
-
 } // namespace tintra

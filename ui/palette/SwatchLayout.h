@@ -4,7 +4,6 @@
 
 #include <QRectF>
 #include <QSizeF>
-#include <array>
 #include <cstddef>
 #include <vector>
 
@@ -25,8 +24,5 @@ SwatchPlaces columnPlaces(std::size_t count, QSizeF size);
 SwatchPlaces rowPlaces(std::size_t count, QSizeF size, int leastHeight);
 /// Tiles of at least 140 by 120 px, with a place for one more at the end.
 SwatchPlaces tilePlaces(std::size_t count, QSizeF size);
-
-/// The round corners of a swatch within its group.
-std::array<int, 4> radiiWithin(const QRectF& swatch, const QRectF& group, int radius);
 
 } // namespace tintra

@@ -126,6 +126,9 @@ void Application::applyTheme() {
 
 void Application::start(const std::vector<std::filesystem::path>& files) {
     const auto opening = models_.start([this](const Uuid& id) { openPalette(id); });
+    // Each of them has come up over the one before.
+    if (const auto* front = models_.workspaces().front(); front && palettes_.size() > 1)
+        openPalette(front->id());
     if (opening.library) showBeside(library_);
     if (opening.bench) showBeside(bench_);
     if (opening.contrast) showBeside(contrast_);

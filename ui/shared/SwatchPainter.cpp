@@ -128,6 +128,13 @@ QBrush checkerboard(const Theme& theme) {
 
 } // namespace
 
+std::array<int, 4> radiiWithin(const QRectF& swatch, const QRectF& group, int radius) {
+    const bool left = swatch.left() <= group.left(), right = swatch.right() >= group.right();
+    const bool top = swatch.top() <= group.top(), bottom = swatch.bottom() >= group.bottom();
+    return {left && top ? radius : 0, right && top ? radius : 0, right && bottom ? radius : 0,
+            left && bottom ? radius : 0};
+}
+
 QColor toQColor(const WashColor& color) {
     const auto unit = [](double component) {
         return static_cast<float>(std::isfinite(component) ? std::clamp(component, 0.0, 1.0) : 0);

@@ -49,6 +49,7 @@ struct SwatchLook {
     bool selected = false, focused = false;
     bool leftBehind = false; ///< lifted: only a dashed outline is left
     std::vector<SwatchButton> buttons;
+    qreal clearTop = 0;         ///< px at the top that a name on its side keeps out of
     std::array<int, 4> radii{}; ///< top left, top right, bottom right, bottom left, px
 };
 
@@ -88,6 +89,9 @@ private:
     const Preferences& preferences_;
     mutable TextLines lines_;
 };
+
+/// The round corners of a swatch within its group.
+std::array<int, 4> radiiWithin(const QRectF& swatch, const QRectF& group, int radius);
 
 /// Gamma-encoded sRGB, clamped; alpha as it is.
 QColor toQColor(const WashColor& color);

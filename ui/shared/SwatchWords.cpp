@@ -76,9 +76,9 @@ QRectF SwatchWords::name() const {
                 height};
     }
     case SwatchShape::onSide: {
-        const auto bottom = codePlace.top() - kInset;
-        return {in_.center().x() - line / 2, in_.top() + kInset, line,
-                std::max<qreal>(0, bottom - in_.top() - kInset)};
+        const auto top = in_.top() + std::max<qreal>(kInset, look_.clearTop);
+        return {in_.center().x() - line / 2, top, line,
+                std::max<qreal>(0, codePlace.top() - kInset - top)};
     }
     case SwatchShape::row: {
         const auto left = in_.left() + (look_.index.isEmpty() ? kInset : kInset + kRowIndex);
@@ -154,11 +154,10 @@ void SwatchWords::paintOnSide(QPainter& painter) const {
     const auto codeFont = measured(TextStyle::codeOnSide);
     const auto length = lines_.width(codeFont, look_.code);
     const qreal line = theme_.lineHeight(TextStyle::name);
-    const auto room = in_.height() - 2 * kInset;
-    if (length <= room)
+    if (length <= in_.height() - 2 * kInset)
         lines_.paint(painter, codeFont, QRectF(0, -line / 2, length + 1, line), Qt::AlignLeft,
                      look_.code);
-    const auto nameRoom = room - length - kInset;
+    const auto nameRoom = name().height();
     if (nameRoom > line && !look_.hidesName) {
         const auto text = lines_.cut(measured(TextStyle::name), look_.name, nameRoom);
         lines_.paint(painter, theme_.font(TextStyle::name, painter.pen().color()),

@@ -50,14 +50,31 @@ QImage apart(Stage& stage) {
     return stage.grab(opened(stage, {760, 480}));
 }
 
+/// As small as the window goes, with the largest type.
+QImage small(Stage& stage) {
+    stage.preferences().typeSize = TypeSize::largest;
+    lay(stage);
+    mix(stage.ui().models.bench(), 0, 1, 0.5);
+    return stage.grab(opened(stage, {560, 400}));
+}
+
+/// More than have room; the last ones are in view.
+QImage many(Stage& stage) {
+    auto& bench = stage.ui().models.bench();
+    for (const auto& one : interfaceScale().colours)
+        bench.addStagedToBench(bench.stagedColumn(one, std::nullopt));
+    mix(bench, 34, 35, 0.5);
+    mix(bench, 28, 32, 0.5);
+    return stage.grab(opened(stage, {1040, 640}));
+}
+
 QImage empty(Stage& stage) {
     return stage.grab(opened(stage, {560, 400}));
 }
 
 constexpr Scene kScenes[] = {
-    {"bench", kAll, twoMixes},
-    {"bench-apart", kLight, apart},
-    {"bench-empty", kBoth, empty},
+    {"bench", kAll, twoMixes},   {"bench-apart", kLight, apart}, {"bench-small", kLight, small},
+    {"bench-many", kBoth, many}, {"bench-empty", kBoth, empty},
 };
 
 } // namespace
