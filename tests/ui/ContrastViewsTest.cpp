@@ -101,6 +101,15 @@ TEST_F(ContrastWindowTest, MissingColoursAreAskedFor) {
         EXPECT_TRUE(halves.isVisible());
         EXPECT_FALSE(part<EntryList>().isVisible());
     }
+    EXPECT_EQ(window.figureText(), QString()); // and no figure is left
+    focus(halves, 1);
+    press("Return");
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("#123456"));
+    press("Ctrl+Return");
+    desk.settle();
+    ASSERT_TRUE(board.ground());
+    EXPECT_FALSE(board.text());
+    board.clear();
     drop(halves, {halves.width() - 10.0, 20}, *mimeOf({{0, 0, 0, 1}, {}, DragOfBand{}}, {}));
     EXPECT_TRUE(board.ground());
 }
