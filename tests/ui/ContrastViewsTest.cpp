@@ -118,12 +118,15 @@ TEST_F(ContrastWindowTest, EverySizeShowsEverything) {
     struct Case {
         Appearance appearance;
         bool high;
+        TypeSize type;
         const char* suffix;
     };
-    for (const auto& [appearance, high, suffix] :
-         {Case{Appearance::light, false, ""}, Case{Appearance::dark, false, "-dark"},
-          Case{Appearance::dark, true, "-hcd"}}) {
+    for (const auto& [appearance, high, type, suffix] :
+         {Case{Appearance::light, false, TypeSize::regular, ""},
+          Case{Appearance::dark, false, TypeSize::largest, "-dark-large"},
+          Case{Appearance::dark, true, TypeSize::regular, "-hcd"}}) {
         desk.models.preferences().appearance = appearance;
+        desk.models.preferences().typeSize = type;
         desk.settings.prefersHighContrast = high;
         desk.applyStyle();
         for (const auto mode : {Mode::pair, Mode::matrix, Mode::ladder})
