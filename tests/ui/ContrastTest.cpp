@@ -1,4 +1,5 @@
 #include "tests/ui/ContrastWindowTest.h"
+#include "ui/contrast/ContrastBody.h"
 #include "ui/contrast/EntryList.h"
 #include "ui/contrast/LightnessRow.h"
 #include "ui/contrast/ReachCanvas.h"
@@ -10,7 +11,9 @@
 
 #include <QLineEdit>
 #include <QTextEdit>
+#include <QUrl>
 #include <cmath>
+#include <string_view>
 
 namespace tintra::test {
 namespace {
@@ -126,12 +129,16 @@ TEST_F(ContrastWindowTest, LightnessMovesOneColourOfThePair) {
     };
     const auto before = chroma();
     const auto middle = QPoint(track.width() / 2, track.height() / 2);
+    const QPoint white(track.width() - 14, track.height() / 2);
     QTest::mousePress(&track, Qt::LeftButton, {}, middle);
-    QTest::mouseMove(&track, QPoint(track.width() - 14, track.height() / 2));
+    QTest::mouseMove(&track, white);
     EXPECT_LT(chroma(), before / 2); // near white there is hardly any
     QTest::mouseMove(&track, middle);
-    EXPECT_NEAR(chroma(), before, 0.01); // one drag: it comes back
-    QTest::mouseRelease(&track, Qt::LeftButton, {}, middle);
+    EXPECT_NEAR(chroma(), before, 0.01); // it comes back
+    QTest::mouseMove(&track, white);
+    QTest::mouseRelease(&track, Qt::LeftButton, {}, white);
+    QTest::mouseClick(&track, Qt::LeftButton, {}, middle);
+    EXPECT_NEAR(chroma(), before, 0.01); // and in another drag
     EXPECT_EQ(nameOf(board.text()), "Slack Tide");
 
     auto* field = row.findChild<QLineEdit*>();
@@ -168,7 +175,8 @@ TEST_F(ContrastWindowTest, TakesDrops) {
         desk.notices();
         auto& on = to == list ? static_cast<QWidget&>(part<EntryList>()) : part<SpecimenCanvas>();
         const auto x = to == right ? on.width() - 20 : 20;
-        EXPECT_TRUE(drop(on, {qreal(x), 30}, *mimeOf(*drag, {})).taken);
+        const bool refused = std::string_view(notice).ends_with("already in Contrast");
+        EXPECT_EQ(drop(on, {qreal(x), 30}, *mimeOf(*drag, {})).taken, !refused);
         EXPECT_EQ(names(), pairNow);
         EXPECT_EQ(board.entries().size(), count);
         const auto notices = desk.notices();
@@ -205,6 +213,33 @@ TEST_F(ContrastWindowTest, TextBringsWhatFits) {
         desk.settle();
         EXPECT_EQ(desk.notices().back(), notice);
         EXPECT_EQ(board.entries().size(), count);
+    }
+}
+
+TEST_F(ContrastWindowTest, TakesWhatIsDroppedAsAWhole) {
+    QMimeData several, picture;
+    several.setText(QStringLiteral("#010101\n#020202"));
+    picture.setUrls({QUrl::fromLocalFile(QStringLiteral("/evening.png"))});
+    // On a half all are sent, and the first has the role.
+    show(Mode::pair);
+    auto& specimen = part<SpecimenCanvas>();
+    drop(specimen, {specimen.width() - 20.0, 30}, several);
+    desk.settle();
+    EXPECT_EQ(board.entries().size(), 13U);
+    EXPECT_EQ(board.ground()->color.hex(), "#010101");
+    EXPECT_EQ(board.text()->color.hex(), WashColor::fromHex("#3e7cb1")->hex());
+    // Views without roles send.
+    const Drag night{*WashColor::fromHex("#112233"), "Night", DragOfBand{}};
+    for (const auto mode : {Mode::matrix, Mode::ladder}) {
+        show(mode);
+        board.remove(board.entries().back().id);
+        desk.notices();
+        auto& body = part<ContrastBody>();
+        EXPECT_FALSE(drop(body, {20, 20}, picture).entered);
+        EXPECT_TRUE(drop(body, {20, 20}, *mimeOf(night, {})).taken);
+        EXPECT_FALSE(drop(body, {20, 20}, *mimeOf(night, {})).taken);
+        EXPECT_EQ(desk.notices(), (std::vector<std::string>{"Sent #112233 to Contrast",
+                                                            "#112233 is already in Contrast"}));
     }
 }
 

@@ -101,6 +101,15 @@ TEST_F(ContrastWindowTest, MissingColoursAreAskedFor) {
         EXPECT_TRUE(halves.isVisible());
         EXPECT_FALSE(part<EntryList>().isVisible());
     }
+    EXPECT_EQ(window.figureText(), QString()); // and no figure is left
+    focus(halves, 1);
+    press("Return");
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("#123456"));
+    press("Ctrl+Return");
+    desk.settle();
+    ASSERT_TRUE(board.ground());
+    EXPECT_FALSE(board.text());
+    board.clear();
     drop(halves, {halves.width() - 10.0, 20}, *mimeOf({{0, 0, 0, 1}, {}, DragOfBand{}}, {}));
     EXPECT_TRUE(board.ground());
 }
@@ -109,12 +118,15 @@ TEST_F(ContrastWindowTest, EverySizeShowsEverything) {
     struct Case {
         Appearance appearance;
         bool high;
+        TypeSize type;
         const char* suffix;
     };
-    for (const auto& [appearance, high, suffix] :
-         {Case{Appearance::light, false, ""}, Case{Appearance::dark, false, "-dark"},
-          Case{Appearance::dark, true, "-hcd"}}) {
+    for (const auto& [appearance, high, type, suffix] :
+         {Case{Appearance::light, false, TypeSize::regular, ""},
+          Case{Appearance::dark, false, TypeSize::largest, "-dark-large"},
+          Case{Appearance::dark, true, TypeSize::regular, "-hcd"}}) {
         desk.models.preferences().appearance = appearance;
+        desk.models.preferences().typeSize = type;
         desk.settings.prefersHighContrast = high;
         desk.applyStyle();
         for (const auto mode : {Mode::pair, Mode::matrix, Mode::ladder})

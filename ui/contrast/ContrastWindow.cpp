@@ -15,6 +15,7 @@
 #include "ui/shared/ColourMime.h"
 #include "ui/shared/Controls.h"
 #include "ui/shared/Text.h"
+#include "ui/shared/Theme.h"
 
 #include <QClipboard>
 #include <QCloseEvent>
@@ -25,6 +26,8 @@
 
 namespace tintra {
 namespace {
+
+constexpr QSize kLeast(720, 520); ///< at regular text size
 
 /// As the colour of a role, when there is one at the time.
 PasteTarget pasteTarget(Ui& ui, const std::optional<ContrastBoard::Role>& as) {
@@ -53,7 +56,6 @@ ContrastWindow::ContrastWindow(Ui& ui)
       target_(new PopUpButton(ui.theme, PopUpButton::Border::yes)),
       body_(new ContrastBody(ui, this)), facts_(new FactsLine(ui, &board_.vision, this)) {
     setWindowTitle(worded("Contrast — Tintra"));
-    setMinimumSize(720, 520);
     makeTools();
     assemble(tools_, body_, facts_);
     body_->fillMenu = [this](QMenu& menu) { fillContrastEntryMenu(menu, context()); };
@@ -94,6 +96,12 @@ void ContrastWindow::subscribe() {
     subscriptions_.add(board_.size, again);
     subscriptions_.add(board_.weight, again);
     subscriptions_.add(board_.ladderFixesGround, again);
+    const auto fit = [this] {
+        const auto& theme = ui().theme;
+        setMinimumSize(theme.scaled(kLeast.width()), theme.scaled(kLeast.height()));
+    };
+    subscriptions_.add(ui().theme.version(), fit);
+    fit();
 }
 
 void ContrastWindow::sync() {

@@ -11,13 +11,48 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QScreen>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 #include <algorithm>
 
 namespace tintra {
 namespace {
 
-constexpr int kWidth = 264, kHeight = 320, kInset = 8, kGap = 8;
+constexpr int kWidth = 264, kHeight = 336, kInset = 8, kGap = 8, kRow = 28, kRowInset = 8;
+
+/// A face among the others, as the rows of menus are.
+class FaceRows final : public QStyledItemDelegate {
+public:
+    FaceRows(const Theme& theme, QObject* parent) : QStyledItemDelegate(parent), theme_(theme) {}
+
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+        return {0, theme_.scaled(kRow)};
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        const bool isChosen = option.state.testFlag(QStyle::State_Selected);
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        if (isChosen || option.state.testFlag(QStyle::State_MouseOver)) {
+            painter->setPen(Qt::NoPen);
+            painter->setBrush(theme_.color(isChosen ? Token::sel : Token::hover));
+            painter->drawRoundedRect(option.rect, metrics::kControlRadius, metrics::kControlRadius);
+        }
+        const auto ink = theme_.color(isChosen ? Token::onsel : Token::ink);
+        const auto font = theme_.font(TextStyle::body, ink);
+        const auto words = option.rect.adjusted(kRowInset, 0, -kRowInset, 0);
+        painter->setFont(font);
+        painter->setPen(ink);
+        painter->drawText(
+            words, Qt::AlignLeft | Qt::AlignVCenter,
+            QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, words.width()));
+        painter->restore();
+    }
+
+private:
+    const Theme& theme_;
+};
 
 } // namespace
 
@@ -31,7 +66,9 @@ FacePicker::FacePicker(Ui& ui, QWidget* parent)
     field_->setFont(ui.theme.font(TextStyle::body));
     field_->installEventFilter(this);
     list_->setAccessibleName(worded("Faces"));
-    list_->setFont(ui.theme.font(TextStyle::body));
+    list_->setItemDelegate(new FaceRows(ui.theme, list_));
+    list_->setFrameShape(QFrame::NoFrame);
+    list_->setMouseTracking(true);
     list_->setUniformItemSizes(true);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->setFocusPolicy(Qt::NoFocus);

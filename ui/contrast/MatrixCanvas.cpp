@@ -206,7 +206,10 @@ void MatrixCanvas::paintFigure(QPainter& painter, const QRectF& in, const Contra
     const auto figureWide = figuresWidth(font, figure);
     const auto markWide = mark.isEmpty() ? 0 : lines_.width(markFace, mark) + 5;
     const auto aa = sample.isValid() ? lines_.width(font, worded("Aa")) + 5 : 0;
-    const bool stacks = aa + figureWide + markWide > in.width() - 4;
+    // All cells alike, as the fullest has to be.
+    const auto fullest = figuresWidth(theme().font(TextStyle::name), QStringLiteral("10.0")) +
+                         lines_.width(markFont(theme(), Qt::black), QStringLiteral("AAA")) + 5;
+    const bool stacks = aa + fullest > in.width() - 4;
     const auto wide = aa + figureWide + (stacks ? 0 : markWide);
     auto line = in;
     if (stacks && !mark.isEmpty()) line.adjust(0, 0, 0, -in.height() * 0.36);

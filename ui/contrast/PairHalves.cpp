@@ -14,6 +14,15 @@ namespace {
 
 constexpr int kGap = 12;
 
+/// Within the half: around it there is no room.
+void paintRing(QPainter& painter, const QRectF& half, const QColor& ink) {
+    constexpr qreal kInset = 6;
+    painter.setPen(QPen(ink, metrics::kFocusWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(half.adjusted(kInset, kInset, -kInset, -kInset),
+                            metrics::kControlRadius, metrics::kControlRadius);
+}
+
 } // namespace
 
 PairHalves::PairHalves(Ui& ui, QWidget* parent) : PairCanvas(ui, parent) {
@@ -65,15 +74,16 @@ void PairHalves::paintItem(QPainter& painter, const CanvasItem& item, ItemState 
         look.name = item.description;
         look.code = item.value;
         look.index = item.name;
-        look.focused = state.focused;
         look.radii.fill(metrics::kGroupRadius);
         ui().painter.paint(painter, item.rect, look);
         ui().painter.hairline(painter, item.rect, metrics::kGroupRadius);
+        if (state.focused)
+            paintRing(painter, item.rect, ui().painter.foreground(held->color, look.vision));
         return;
     }
-    painter.setPen(QPen(theme().color(Token::edge), 1.5, Qt::DashLine));
+    painter.setPen(QPen(theme().color(Token::edge), 1, Qt::DashLine));
     painter.setBrush(state.hovered ? QBrush(theme().color(Token::hover)) : QBrush(Qt::NoBrush));
-    painter.drawRoundedRect(item.rect.adjusted(1, 1, -1, -1), metrics::kGroupRadius,
+    painter.drawRoundedRect(item.rect.adjusted(0.5, 0.5, -0.5, -0.5), metrics::kGroupRadius,
                             metrics::kGroupRadius);
     const auto title = theme().lineHeight(TextStyle::title);
     const auto line = theme().lineHeight(TextStyle::body);
@@ -87,8 +97,7 @@ void PairHalves::paintItem(QPainter& painter, const CanvasItem& item, ItemState 
     painter.setFont(theme().font(TextStyle::body));
     painter.setPen(theme().color(Token::ink3));
     painter.drawText(words, Qt::AlignCenter, item.description);
-    if (state.focused)
-        paintFocusRing(painter, theme(), item.rect.adjusted(4, 4, -4, -4), metrics::kGroupRadius);
+    if (state.focused) paintRing(painter, item.rect, theme().color(Token::ink));
 }
 
 void PairHalves::ask(int item) {

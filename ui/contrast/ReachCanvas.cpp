@@ -30,6 +30,10 @@ QString useTitle() {
     return worded("Use");
 }
 
+QString arrow() {
+    return QStringLiteral("→");
+}
+
 QString easedText() {
     return worded("eased");
 }
@@ -37,6 +41,19 @@ QString easedText() {
 QString distanceText(const Contrast::ReachProposal& of) {
     return worded("ΔL %1").arg(fromUtf8(fixed(of.distance * 100, 1)));
 }
+
+/// What rows are written with.
+struct Pen {
+    QPainter& painter;
+    const Theme& theme;
+
+    void write(const QRectF& in, Qt::Alignment side, TextStyle style, Token ink,
+               const QString& words) const {
+        painter.setFont(theme.font(style));
+        painter.setPen(theme.color(ink));
+        drawFigures(painter, in, side | Qt::AlignVCenter, words);
+    }
+};
 
 } // namespace
 
@@ -95,7 +112,7 @@ ReachCanvas::Columns ReachCanvas::columns() const {
         if (!to) continue;
         widen(all.title, TextStyle::name, shown(to->title));
         widen(all.code, TextStyle::code, codeOf(role));
-        if (to->eased) widen(all.eased, TextStyle::caption, easedText());
+        if (to->eased) widen(all.distance, TextStyle::caption, easedText());
         widen(all.distance, TextStyle::caption, distanceText(*to));
         widen(all.ratio, TextStyle::title, fromUtf8(Contrast::ratioText(to->ratio)));
     }
@@ -192,44 +209,57 @@ void ReachCanvas::paintSample(QPainter& painter, Role role, const QRectF& in) co
     painter.drawText(sample, Qt::AlignCenter, worded("Aa"));
 }
 
+void ReachCanvas::paintInLine(QPainter& painter, Role role, const QRectF& in) const {
+    const Pen pen{painter, theme()};
+    const auto& to = *of(role);
+    pen.write(in, Qt::AlignLeft, TextStyle::name, Token::ink, shown(to.title));
+    const qreal line = theme().lineHeight(TextStyle::caption);
+    QRectF distance(in.left(), in.center().y() - line / 2, in.width(), line);
+    if (to.eased) distance.translate(0, -line / 2);
+    pen.write(distance, Qt::AlignRight, TextStyle::caption, Token::ink3, distanceText(to));
+    distance.translate(0, line);
+    if (to.eased) pen.write(distance, Qt::AlignRight, TextStyle::caption, Token::ink, easedText());
+    auto code = in;
+    code.setLeft(in.right() - columns_.distance - kGap - columns_.code);
+    pen.write(code, Qt::AlignLeft, TextStyle::body, Token::ink2, arrow());
+    code.setLeft(code.left() + theme().scaled(kArrow));
+    pen.write(code, Qt::AlignLeft, TextStyle::code, Token::ink, codeOf(role));
+}
+
+void ReachCanvas::paintStacked(QPainter& painter, Role role, const QRectF& in) const {
+    const Pen pen{painter, theme()};
+    const auto& to = *of(role);
+    const qreal line = theme().lineHeight(TextStyle::caption);
+    const QRectF title(in.left(), in.center().y() - line - 2, in.width(), line + 2);
+    const auto font = theme().font(TextStyle::name);
+    pen.write(title, Qt::AlignLeft, TextStyle::name, Token::ink,
+              QFontMetricsF(font).elidedText(shown(to.title), Qt::ElideRight, in.width()));
+    QRectF rest(in.left(), in.center().y() + 1, in.width(), line);
+    const auto next = [&](TextStyle style, Token ink, const QString& words) {
+        const auto wide = figuresWidth(theme().font(style), words) + 1;
+        if (wide > rest.width()) return;
+        pen.write(rest, Qt::AlignLeft, style, ink, words);
+        rest.setLeft(rest.left() + wide + kGap / 2.0);
+    };
+    next(TextStyle::codeOnSide, Token::ink, codeOf(role));
+    if (to.eased) next(TextStyle::caption, Token::ink, easedText());
+    next(TextStyle::caption, Token::ink3, distanceText(to));
+}
+
 void ReachCanvas::paintProposal(QPainter& painter, const CanvasItem& item) const {
     const auto role = static_cast<Role>(item.index);
-    const auto& to = *of(role);
     paintSample(painter, role, item.rect);
-    const auto left = item.rect.left() + theme().scaled(kSample) + kGap;
-    auto right = items()[static_cast<std::size_t>(find(use, item.index))].rect.left() - kGap;
-    const auto write = [&](const QRectF& in, TextStyle style, Token ink, Qt::Alignment side,
-                           const QString& words) {
-        painter.setFont(theme().font(style));
-        painter.setPen(theme().color(ink));
-        drawFigures(painter, in, side | Qt::AlignVCenter, words);
-    };
-    // From the right what matters most; what the titles leave no room for is left out.
-    const auto column = [&](qreal wide, bool always = false) -> std::optional<QRectF> {
-        if (wide <= 0 || (!always && right - wide - kGap < left + columns_.title))
-            return std::nullopt;
-        const QRectF in(right - wide, item.rect.top(), wide, item.rect.height());
-        right -= wide + kGap;
-        return in;
-    };
-    if (const auto in = column(columns_.ratio, true))
-        write(*in, TextStyle::title, Token::ink, Qt::AlignRight,
-              fromUtf8(Contrast::ratioText(to.ratio)));
-    if (const auto in = column(columns_.distance))
-        write(*in, TextStyle::caption, Token::ink3, Qt::AlignRight, distanceText(to));
-    if (const auto in = column(columns_.eased); in && to.eased)
-        write(*in, TextStyle::caption, Token::ink, Qt::AlignRight, easedText());
-    if (const auto in = column(columns_.code)) {
-        write(*in, TextStyle::body, Token::ink2, Qt::AlignLeft, QStringLiteral("→"));
-        write(in->adjusted(theme().scaled(kArrow), 0, 0, 0), TextStyle::code, Token::ink,
-              Qt::AlignLeft, codeOf(role));
-    }
-    const auto font = theme().font(TextStyle::name);
-    painter.setFont(font);
-    painter.setPen(theme().color(Token::ink));
-    painter.drawText(QRectF(left, item.rect.top(), right - left, item.rect.height()),
-                     Qt::AlignLeft | Qt::AlignVCenter,
-                     QFontMetricsF(font).elidedText(item.name, Qt::ElideRight, right - left + 1));
+    auto in = item.rect;
+    in.setLeft(in.left() + theme().scaled(kSample) + kGap);
+    in.setRight(items()[static_cast<std::size_t>(find(use, item.index))].rect.left() - kGap);
+    Pen{painter, theme()}.write(in, Qt::AlignRight, TextStyle::title, Token::ink,
+                                fromUtf8(Contrast::ratioText(of(role)->ratio)));
+    in.setRight(in.right() - columns_.ratio - kGap);
+    const auto needed = columns_.title + columns_.code + columns_.distance + 2 * kGap;
+    if (needed <= in.width())
+        paintInLine(painter, role, in);
+    else
+        paintStacked(painter, role, in);
 }
 
 void ReachCanvas::paintUse(QPainter& painter, const CanvasItem& item, ItemState state) const {

@@ -34,7 +34,7 @@ private:
 
     /// How wide the parts of a row are, px, over both rows: nothing for what is in neither.
     struct Columns {
-        qreal title = 0, code = 0, eased = 0, distance = 0, ratio = 0;
+        qreal title = 0, code = 0, distance = 0, ratio = 0;
     };
 
     void sync();
@@ -45,6 +45,9 @@ private:
     CanvasItem useItem(const CanvasItem& row) const;
     void paintSample(QPainter& painter, Role role, const QRectF& in) const;
     void paintProposal(QPainter& painter, const CanvasItem& item) const;
+    /// Between the sample and the ratio: all on one line, or the title above the rest.
+    void paintInLine(QPainter& painter, Role role, const QRectF& in) const;
+    void paintStacked(QPainter& painter, Role role, const QRectF& in) const;
     void paintUse(QPainter& painter, const CanvasItem& item, ItemState state) const;
     void take(std::size_t index);
 

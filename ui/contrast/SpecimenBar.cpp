@@ -21,7 +21,7 @@ namespace tintra {
 namespace {
 
 constexpr int kInset = 8, kGap = 8, kSizeField = 76, kWidestFace = 180, kIcon = 20;
-constexpr int kNoteRoom = 280; ///< for two lines of the note
+constexpr int kNoteRoom = 200; ///< for two lines of the note
 
 struct WeightRow {
     int weight;
@@ -115,7 +115,7 @@ void SpecimenBar::layOut() {
     auto swap = swap_->sizeHint().width();
     if (left + theme.scaled(kNoteRoom) + kGap + swap + kInset > width()) {
         swap_->setText({});
-        swap = swap_->sizeHint().width();
+        swap = theme.scaled(36);
     }
     // A button keeps room for its ring around what is painted of it.
     const auto ring = StyleParts::kRingRoom.right();

@@ -108,7 +108,7 @@ void SpecimenCanvas::layOutWords(qreal width) const {
 
 std::vector<CanvasItem> SpecimenCanvas::layoutItems(QSizeF size) const {
     std::vector<CanvasItem> items;
-    const auto inset = size.width() < theme().scaled(480) || size.height() < theme().scaled(160)
+    const auto inset = size.width() < theme().scaled(480) || size.height() < theme().scaled(200)
                            ? kNarrowInset
                            : kInset;
     const auto wide = std::max<qreal>(1, size.width() - 2 * inset);
@@ -174,6 +174,16 @@ void SpecimenCanvas::paintHeading(QPainter& painter, const QRectF& in, const QSt
                      QFontMetricsF(font).elidedText(text, Qt::ElideRight, in.width()));
 }
 
+/// As many lines as there is room for: half a line cannot be judged. One line always.
+void SpecimenCanvas::paintWords(QPainter& painter, const QRectF& in) const {
+    const auto step = lineStep(face_.font);
+    const auto lines = std::max(1, static_cast<int>(in.height() / step));
+    painter.setClipRect(in.adjusted(-4, 0, width(), 0));
+    painter.setPen(colours_.text);
+    for (int i = 0; i < std::min(lines, layout_.lineCount()); ++i)
+        layout_.lineAt(i).draw(&painter, in.topLeft());
+}
+
 void SpecimenCanvas::paintButton(QPainter& painter, const CanvasItem& item) const {
     const bool filled = item.kind == filledButton;
     painter.setPen(filled ? QPen(Qt::NoPen) : QPen(colours_.text, kFrame));
@@ -193,11 +203,7 @@ void SpecimenCanvas::paintItem(QPainter& painter, const CanvasItem& item, ItemSt
         break;
     case words:
         if (editor_) break;
-        painter.save();
-        painter.setClipRect(item.rect.adjusted(-4, 0, width(), 0));
-        painter.setPen(colours_.text);
-        layout_.draw(&painter, item.rect.topLeft());
-        painter.restore();
+        paintWords(painter, item.rect);
         break;
     case icon:
         painter.drawPixmap(item.rect.center() - QPointF(kIcon / 2.0, kIcon / 2.0),

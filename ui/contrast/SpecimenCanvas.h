@@ -43,6 +43,7 @@ private:
     void dressEditor();
     void endEdit(bool keep);
     void paintHeading(QPainter& painter, const QRectF& in, const QString& text) const;
+    void paintWords(QPainter& painter, const QRectF& in) const;
     void paintButton(QPainter& painter, const CanvasItem& item) const;
 
     Upkeep upkeep_{*this, [this] { sync(); }};

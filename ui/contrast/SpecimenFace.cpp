@@ -7,6 +7,7 @@
 
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QSet>
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -34,6 +35,20 @@ QFont fontOf(const QString& family, double size, int weight) {
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(size))));
     font.setWeight(static_cast<QFont::Weight>(weight));
     return font;
+}
+
+/// Whether a family is but a weight of another, as "Inter Black" is listed beside "Inter".
+bool isCut(const QString& family, const QSet<QString>& all) {
+    for (auto space = family.indexOf(u' '); space > 0; space = family.indexOf(u' ', space + 1)) {
+        const auto of = family.left(space);
+        auto style = family.mid(space + 1);
+        if (!all.contains(of)) continue;
+        // The styles are written with or without spaces: "Extra Bold", "ExtraBold".
+        style.remove(u' ');
+        for (auto known : QFontDatabase::styles(of))
+            if (known.remove(u' ').compare(style, Qt::CaseInsensitive) == 0) return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -64,6 +79,8 @@ QStringList specimenFamilies() {
     auto families = QFontDatabase::families(QFontDatabase::Latin);
     families.removeIf([](const QString& family) { return QFontDatabase::isPrivateFamily(family); });
     families.removeDuplicates();
+    const QSet<QString> all(families.begin(), families.end());
+    families.removeIf([&all](const QString& family) { return isCut(family, all); });
     return families;
 }
 

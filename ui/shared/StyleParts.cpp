@@ -71,9 +71,10 @@ void StyleParts::buttonLabel(const QStyleOptionButton& option) const {
     if (!option.icon.isNull()) {
         const auto words = QFontMetrics(font).horizontalAdvance(option.text);
         const auto side = option.iconSize.width();
-        const auto left = room.center().x() - (words + side + 8) / 2;
+        const auto gap = option.text.isEmpty() ? 0 : 8;
+        const auto left = room.center().x() - (words + side + gap) / 2;
         option.icon.paint(&painter_, QRect(left, room.center().y() - side / 2, side, side));
-        room.setLeft(left + side + 8);
+        room.setLeft(left + side + gap);
         painter_.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic,
                           option.text);
         return;
