@@ -31,6 +31,13 @@ void bringUp(QWidget& window) {
     window.activateWindow();
 }
 
+/// Leaves the keyboard where it is.
+void showQuietly(QWidget& window) {
+    window.setAttribute(Qt::WA_ShowWithoutActivating);
+    window.show();
+    window.setAttribute(Qt::WA_ShowWithoutActivating, false);
+}
+
 /// Decides first whether colours are light or dark where the style asks for a palette.
 Rgb rgbOf(const QColor& color) {
     return {color.redF(), color.greenF(), color.blueF()};
@@ -125,10 +132,13 @@ void Application::applyTheme() {
 }
 
 void Application::start(const std::vector<std::filesystem::path>& files) {
-    const auto opening = models_.start([this](const Uuid& id) { openPalette(id); });
-    // Each of them has come up over the one before.
-    if (const auto* front = models_.workspaces().front(); front && palettes_.size() > 1)
-        openPalette(front->id());
+    // The first is in front; the display may show windows in another order than it is told of them.
+    const auto opening = models_.start([this](const Uuid& id) {
+        if (palettes_.empty())
+            openPalette(id);
+        else
+            showQuietly(paletteWindow(id));
+    });
     if (opening.library) showBeside(library_);
     if (opening.bench) showBeside(bench_);
     if (opening.contrast) showBeside(contrast_);
@@ -171,10 +181,14 @@ MainWindow* Application::mainWindow(const ToastPlace& place) const {
     return nullptr;
 }
 
-void Application::openPalette(const Uuid& id) {
+PaletteWindow& Application::paletteWindow(const Uuid& id) {
     auto& window = palettes_[id];
     if (!window) window = std::make_unique<PaletteWindow>(ui_, *models_.workspaces().state(id));
-    bringUp(*window);
+    return *window;
+}
+
+void Application::openPalette(const Uuid& id) {
+    bringUp(paletteWindow(id));
 }
 
 bool Application::isOnlyWindow(const QWidget* window) const {
@@ -216,11 +230,7 @@ void Application::showOnly(QPointer<Window>& window) {
 
 template <class Window>
 void Application::showBeside(QPointer<Window>& window) {
-    if (window) return;
-    auto& shown = only(window);
-    shown.setAttribute(Qt::WA_ShowWithoutActivating);
-    shown.show();
-    shown.setAttribute(Qt::WA_ShowWithoutActivating, false);
+    if (!window) showQuietly(only(window));
 }
 
 void Application::openBench() {

@@ -61,6 +61,8 @@ private:
     void connectNotices();
     /// The main window of a place; none while it is closed.
     MainWindow* mainWindow(const ToastPlace& place) const;
+    /// The window of a palette, made when it is not open.
+    PaletteWindow& paletteWindow(const Uuid& id);
     bool isOnlyWindow(const QWidget* window) const;
     /// Ends the program without a question: everything is kept and comes back.
     void leave();
