@@ -168,6 +168,7 @@ TEST(AppStateSaving, KeepsInTheColourPickerWhatCannotBeWrittenBack) {
     desk.answer("Save");
     state.newPalette();
     EXPECT_NE(desk.question().text.find("saved to the system colour picker."), std::string::npos);
+    desk.settle();
     EXPECT_EQ(FilesDesk::count(desk.folder / "colors/Old.clr"), 2U);
     PaletteStore::Entry crayons;
     crayons.name = "Old";
