@@ -13,8 +13,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QContextMenuEvent>
 #include <QImage>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPaintEvent>
 #include <QUrl>
 #include <functional>
@@ -312,6 +314,33 @@ TEST(BenchWindowTest, IsWorkedWithTheMouse) {
     press("Return");
     EXPECT_EQ(on.bench.name(on.bench.benchColumns()[2]), "Amber");
     EXPECT_TRUE(on.canvas.hasFocus());
+}
+
+TEST(BenchWindowTest, AWellIsWorkedThoughItMovesWhenItIsPressed) {
+    OnBench on;
+    on.mix(0, 1);
+    const auto apart = [&] {
+        on.activate(3);
+        QCoreApplication::processEvents();
+        return on.middle(BenchCanvas::well, 0).toPoint();
+    };
+    const auto at = apart();
+    QTest::mousePress(&on.canvas, Qt::RightButton, {}, at);
+    QCoreApplication::processEvents();
+    ASSERT_NE(on.middle(BenchCanvas::well, 0).toPoint(), at) << "its editor is there now";
+    QContextMenuEvent asks(QContextMenuEvent::Mouse, at, on.canvas.mapToGlobal(at));
+    QCoreApplication::sendEvent(&on.canvas, &asks);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(menu->actions().front()->text(), QStringLiteral("Keep the Mix as a Colour"));
+    menu->close();
+    const auto again = apart();
+    QTest::mouseClick(&on.canvas, Qt::LeftButton, {}, again);
+    QTest::mouseDClick(&on.canvas, Qt::LeftButton, {}, again);
+    EXPECT_TRUE(child<WellEditor>(on.window)->isAncestorOf(QApplication::focusWidget()));
+    QCoreApplication::processEvents();
+    click(on.canvas, on.canvas.items()[2].rect.bottomLeft() + QPointF(20, -20));
+    EXPECT_EQ(on.copied(), "#ff8000") << "the code of a column, while the editor goes";
 }
 
 TEST(BenchWindowTest, FollowsTheSwatchesOfAPalette) {

@@ -102,7 +102,10 @@ private:
     // Pointer and drags
     /// The item there that can be worked: what lies on a column's figures and lines is the column.
     int workedAt(QPointF place) const;
-    void click(int item, QPointF place);
+    void click(int item);
+    enum class Words { none, name, code };
+    /// Of a column.
+    Words wordsAt(int item, QPointF place) const;
     void toggleMix(std::size_t at);
     void startDrag(int item);
     std::size_t insertionAt(QPointF place) const;
@@ -116,7 +119,9 @@ private:
     mutable BenchPlaces stand_;
     int hoveredButton_ = -1, pressedButton_ = -1;
     int pressedItem_ = -1;
-    bool wasActive_ = false; ///< when it was pressed
+    std::optional<BenchSelection> pressedOn_; ///< the last time, with any button
+    bool wasActive_ = false;                  ///< when it was pressed
+    Words pressedWords_ = Words::none;
     QPointF pressedAt_;
     std::optional<std::size_t> insertion_; ///< where a drop would go
     std::optional<Drag> offered_;          ///< the colour that is dragged over the canvas

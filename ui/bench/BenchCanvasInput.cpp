@@ -61,10 +61,13 @@ void BenchCanvas::hoverMoved(int item, QPointF place) {
 void BenchCanvas::mousePressEvent(QMouseEvent* event) {
     if (field_) field_->end(true);
     const auto item = workedAt(event->position());
-    wasActive_ = item >= 0 && selectionOf(item) && selectionOf(item) == bench_.benchActive.value();
-    if (item >= 0 && selectionOf(item)) {
+    pressedOn_ = selectionOf(item);
+    wasActive_ = pressedOn_ && pressedOn_ == bench_.benchActive.value();
+    // The well editor may go with this, and the words move.
+    pressedWords_ = wordsAt(item, event->position());
+    if (pressedOn_) {
         setFocused(item);
-        bench_.benchActive = selectionOf(item);
+        bench_.benchActive = pressedOn_;
     }
     if (event->button() != Qt::LeftButton) return;
     pressedItem_ = item;
@@ -93,20 +96,26 @@ void BenchCanvas::mouseReleaseEvent(QMouseEvent* event) {
         if (buttonAt(item, event->position()) == button && pressed) pressed(button);
         return;
     }
-    click(item, event->position());
+    if (pressedWords_ == Words::code && pressed)
+        pressed(0);
+    else if (pressedWords_ == Words::name && wasActive_)
+        beginRename();
+    else
+        click(item);
 }
 
-void BenchCanvas::click(int item, QPointF place) {
+void BenchCanvas::click(int item) {
     const auto one = items()[static_cast<std::size_t>(item)];
     if (one.kind == mix) toggleMix(one.index);
     if (one.kind == beginning && typeOrPaste) typeOrPaste();
-    if (one.kind != column) return;
-    const auto words = look(one);
-    if (ui_.painter.codeRect(one.rect, words).contains(place)) {
-        if (pressed) pressed(0);
-    } else if (wasActive_ && ui_.painter.nameRect(one.rect, words).contains(place)) {
-        beginRename();
-    }
+}
+
+BenchCanvas::Words BenchCanvas::wordsAt(int item, QPointF place) const {
+    if (item < 0 || items()[static_cast<std::size_t>(item)].kind != column) return Words::none;
+    const auto& one = items()[static_cast<std::size_t>(item)];
+    const auto shown = look(one);
+    if (ui_.painter.codeRect(one.rect, shown).contains(place)) return Words::code;
+    return ui_.painter.nameRect(one.rect, shown).contains(place) ? Words::name : Words::none;
 }
 
 void BenchCanvas::toggleMix(std::size_t at) {
@@ -114,10 +123,11 @@ void BenchCanvas::toggleMix(std::size_t at) {
         bench_.toggleWell(Uuid(columnAt(at).id), Uuid(columnAt(at + 1).id));
 }
 
+// A well that is pressed opens its editor, and so what is under the pointer moves from there: what
+// was pressed decides.
+
 void BenchCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
-    const auto item = workedAt(event->position());
-    const auto active = selectionOf(item);
-    if (active && active->kind == BenchSelection::Of::well && adjustMix)
+    if (pressedOn_ && pressedOn_->kind == BenchSelection::Of::well && adjustMix)
         adjustMix();
     else
         mousePressEvent(event);
@@ -125,9 +135,8 @@ void BenchCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void BenchCanvas::contextMenuEvent(QContextMenuEvent* event) {
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    const auto item = byKey ? itemOf(bench_.benchActive.value()) : workedAt(event->pos());
-    const bool onItem = selectionOf(item).has_value();
-    if (onItem) setFocused(item);
+    const auto item = itemOf(byKey ? bench_.benchActive.value() : pressedOn_);
+    const bool onItem = item >= 0;
     const auto at = byKey && onItem
                         ? items()[static_cast<std::size_t>(item)].rect.center().toPoint()
                         : event->pos();
@@ -140,7 +149,7 @@ void BenchCanvas::keyPressEvent(QKeyEvent* event) {
                         event->key() == Qt::Key_Space;
     const auto kind = item >= 0 ? items()[static_cast<std::size_t>(item)].kind : -1;
     if (enters && (kind == beginning || kind == mix))
-        click(item, {});
+        click(item);
     else
         Canvas::keyPressEvent(event);
 }
