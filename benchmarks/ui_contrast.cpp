@@ -1,3 +1,6 @@
+// What a step of a drag of the text's lightness costs in each view of a full board, painted by
+// software: at most 8 ms are to go by. In the pair both ways to reach the target are searched.
+
 #include "benchmarks/OffscreenApplication.h"
 #include "tests/ui/Desk.h"
 #include "ui/contrast/ContrastWindow.h"
@@ -7,7 +10,6 @@
 namespace tintra {
 namespace {
 
-/// A step of a drag of the text's lightness, with a full board, until it is painted.
 void dragLightness(benchmark::State& run) {
     bench::offscreenApplication();
     test::Desk desk;

@@ -19,6 +19,7 @@ namespace tintra {
 namespace {
 
 constexpr int kWidth = 264, kHeight = 336, kInset = 8, kGap = 8, kRow = 28, kRowInset = 8;
+constexpr int kFromButton = 2;
 
 /// A face among the others, as the rows of menus are.
 class FaceRows final : public QStyledItemDelegate {
@@ -56,8 +57,8 @@ private:
 
 } // namespace
 
-FacePicker::FacePicker(Ui& ui, QWidget* parent)
-    : QWidget(parent, Qt::Popup), ui_(ui), before_(ui.models.contrast().family.value()),
+FacePicker::FacePicker(Ui& ui, QWidget* button)
+    : QWidget(button, Qt::Popup), ui_(ui), before_(ui.models.contrast().family.value()),
       field_(new QLineEdit(this)), list_(new QListWidget(this)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setAccessibleName(worded("Face of the specimen"));
@@ -90,13 +91,15 @@ FacePicker::FacePicker(Ui& ui, QWidget* parent)
     setFocusProxy(field_);
 }
 
-void FacePicker::popUp(QPoint at) {
-    if (const auto* screen = QGuiApplication::screenAt(at)) {
-        const auto room = screen->availableGeometry();
-        at.setX(std::max(room.left(), std::min(at.x(), room.right() + 1 - width())));
-        at.setY(std::max(room.top(), std::min(at.y(), room.bottom() + 1 - height())));
-    }
-    move(at);
+void FacePicker::popUp() {
+    const auto* button = parentWidget();
+    const auto room = button->screen()->availableGeometry();
+    auto at = button->mapToGlobal(QPoint(0, button->height() + kFromButton));
+    at.setX(std::max(room.left(), std::min(at.x(), room.right() + 1 - width())));
+    // Above where there is no room below.
+    if (at.y() + height() > room.bottom() + 1)
+        at.setY(button->mapToGlobal(QPoint(0, -kFromButton - height())).y());
+    move(at.x(), std::max(room.top(), at.y()));
     show();
     list_->scrollToItem(list_->currentItem(), QAbstractItemView::PositionAtCenter);
     field_->setFocus(Qt::PopupFocusReason);

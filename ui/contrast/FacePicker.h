@@ -15,10 +15,10 @@ namespace tintra {
 /// walked to holds at once; Esc brings back the one before. Deletes itself.
 class FacePicker final : public QWidget {
 public:
-    FacePicker(Ui& ui, QWidget* parent);
+    FacePicker(Ui& ui, QWidget* button);
 
-    /// With its top left corner there, or as near as the screen allows.
-    void popUp(QPoint at);
+    /// At its button, as near as the screen allows.
+    void popUp();
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -151,7 +151,7 @@ CanvasItem ReachCanvas::useItem(const CanvasItem& row) const {
 
 std::vector<CanvasItem> ReachCanvas::layoutItems(QSizeF size) const {
     std::vector<CanvasItem> items;
-    if (!report_) return items;
+    if (!report_ || !board_.text() || !board_.ground()) return items;
     const qreal row = theme().scaled(kRow);
     QRectF in(0, 0, size.width(), row);
     const auto say = [&](std::string_view words) {

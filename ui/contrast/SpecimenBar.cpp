@@ -151,7 +151,7 @@ void SpecimenBar::paintEvent(QPaintEvent*) {
 
 void SpecimenBar::openFaces() {
     auto* picker = new FacePicker(ui_, face_);
-    picker->popUp(face_->mapToGlobal(QPoint(0, face_->height() + 2)));
+    picker->popUp();
 }
 
 // The size
