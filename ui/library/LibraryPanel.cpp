@@ -95,32 +95,37 @@ qreal LibraryPanel::addSwatches(const Theme& theme, std::size_t count) {
 qreal LibraryPanel::addButtons(const Theme& theme, const LibraryPalette& palette, bool installsFor,
                                qreal y) {
     const QFontMetricsF metrics(theme.font(TextStyle::control));
-    const auto high = theme.scaled(kButton);
     const auto left = rect_.left() + kPad, right = rect_.right() - kPad;
-    auto x = left;
-    std::size_t firstAtRight = 0;
-    bool isAtRight = false;
+    const qreal high = theme.scaled(kButton);
+    qreal whole = -kGap;
+    std::size_t own = 0; // what is done with the palette comes before what is done with its file
     for (const auto& [action, text] : kActions) {
         if (!isOffered(action, palette, installsFor)) continue;
         const auto title = worded(text);
         const auto wide = metrics.horizontalAdvance(title) + 2 * kButtonPad;
-        if (x > left && x + wide > right) {
-            x = left;
-            y += high + kGap;
-            firstAtRight = buttons_.size();
-        }
-        if (action >= duplicate && !isAtRight) {
-            isAtRight = true;
-            firstAtRight = buttons_.size();
-        }
-        buttons_.push_back({action, QRectF(x, y, wide, high), title});
-        x += wide + kGap;
+        buttons_.push_back({action, QRectF(left, y, wide, high), title});
+        whole += wide + kGap;
+        if (action < duplicate) own = buttons_.size();
     }
-    // What can be done with the file stands at the right of its line.
-    const auto shift = right - (x - kGap);
-    if (isAtRight)
-        for (auto i = firstAtRight; i < buttons_.size(); ++i)
-            buttons_[i].rect.translate(shift, 0);
+    auto x = left;
+    const auto nextLine = [&] {
+        x = left;
+        y += high + kGap;
+    };
+    auto lineOfFile = own; // the first button of the last line
+    for (std::size_t i = 0; i < buttons_.size(); ++i) {
+        auto& rect = buttons_[i].rect;
+        const bool isApart = i == own && whole > right - left;
+        if (x > left && (isApart || x + rect.width() > right)) {
+            nextLine();
+            if (i > own) lineOfFile = i;
+        }
+        rect.moveTopLeft({x, y});
+        x = rect.right() + kGap;
+    }
+    // What is done with the file stands at the right.
+    for (auto i = lineOfFile; i < buttons_.size(); ++i)
+        buttons_[i].rect.translate(right - (x - kGap), 0);
     return y + high;
 }
 
