@@ -27,8 +27,12 @@ namespace {
 void bringUp(QWidget& window) {
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.show();
-    window.raise();
-    window.activateWindow();
+    // A menu that asked for it gives the keyboard back to its own window first.
+    const auto raise = [&window] {
+        window.raise();
+        window.activateWindow();
+    };
+    QMetaObject::invokeMethod(&window, raise, Qt::QueuedConnection);
 }
 
 /// Leaves the keyboard where it is.

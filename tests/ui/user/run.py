@@ -10,7 +10,7 @@ import signal
 import sys
 
 SKIPPED = 77
-LIMIT = 170
+LIMIT = 280
 
 try:
     from desktop import Desktop, missing_tools
@@ -21,6 +21,8 @@ except (ImportError, ValueError) as error:
 
 
 def stop(*_):
+    # Again, should this be in the middle of a callback, where it is lost.
+    signal.alarm(1)
     raise TimeoutError(f"not done in {LIMIT} s")
 
 
@@ -39,6 +41,7 @@ def main(story, binaries):
         importlib.import_module(f"stories.{story}").tell(user, desktop)
         return 0
     except Exception:
+        signal.alarm(0)
         picture = pathlib.Path(binaries).parent / f"user-{story}.png"
         desktop.screenshot(picture)
         if user and hasattr(user, "tintra"):

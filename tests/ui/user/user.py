@@ -75,7 +75,7 @@ class User:
 
     def of_window(self, title, *words):
         self.xdotool("search", "--all", "--onlyvisible", "--pid", self.tintra.process.pid, "--name",
-                     f"^{title}", *words)
+                     "^" + title.replace("*", "[*]"), *words)
 
     def goes_to(self, title):
         """As with the desktop's list of windows."""
