@@ -337,7 +337,7 @@ TEST(BenchWindowTest, AWellIsWorkedThoughItMovesWhenItIsPressed) {
     const auto again = apart();
     QTest::mouseClick(&on.canvas, Qt::LeftButton, {}, again);
     QTest::mouseDClick(&on.canvas, Qt::LeftButton, {}, again);
-    EXPECT_TRUE(child<WellEditor>(on.window)->isAncestorOf(QApplication::focusWidget()));
+    EXPECT_TRUE(child<WellEditor>(on.window)->isAncestorOf(on.window.focusWidget()));
     QCoreApplication::processEvents();
     click(on.canvas, on.canvas.items()[2].rect.bottomLeft() + QPointF(20, -20));
     EXPECT_EQ(on.copied(), "#ff8000") << "the code of a column, while the editor goes";
