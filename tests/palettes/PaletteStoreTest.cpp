@@ -73,10 +73,10 @@ protected:
     /// What is told of something that is done beside the main loop.
     template <class Told, class Act>
     Told done(Act act) {
-        std::optional<Told> what;
-        act([&](const Told& said) { what = said; });
+        std::optional<Told> answer;
+        act([&](const Told& what) { answer = what; });
         desktop.loop.turn();
-        return what.value();
+        return answer.value();
     }
     PaletteStore::Saved save(const char* name, Clash clash) {
         return std::get<PaletteStore::Saved>(done<Saved>([&](auto then) {
@@ -329,20 +329,20 @@ TEST_F(PaletteStoreTest, WorksOnFilesInTheBackgroundInTheOrderAsked) {
     folder.write("watched/Red.gpl", kRed);
     watch({location("watched")});
     desktop.background.holds = true;
-    std::vector<std::string> said;
-    store.trash(named("Red"), [&](const auto&) { said.push_back("trashed"); });
+    std::vector<std::string> outcomes;
+    store.trash(named("Red"), [&](const auto&) { outcomes.push_back("trashed"); });
     store.duplicate(named("Red"), "Copy", [&](const Error& error) {
-        said.push_back(error ? "nothing to copy" : "copied");
+        outcomes.push_back(error ? "nothing to copy" : "copied");
     });
     store.trash(named("Red"), [&](const Trashed& result) {
-        said.push_back(std::holds_alternative<FileError>(result) ? "gone" : "trashed");
+        outcomes.push_back(std::holds_alternative<FileError>(result) ? "gone" : "trashed");
     });
     EXPECT_TRUE(fs::exists(folder / "watched/Red.gpl")) << "nothing is done on the main loop";
     for (int i = 0; i < 3; ++i) {
         desktop.background.finish();
         desktop.loop.turn();
     }
-    EXPECT_THAT(said, ElementsAre("trashed", "nothing to copy", "gone"));
+    EXPECT_THAT(outcomes, ElementsAre("trashed", "nothing to copy", "gone"));
     EXPECT_THAT(names(), IsEmpty());
 }
 

@@ -167,6 +167,7 @@ TEST(AppStateSaving, KeepsInTheColourPickerWhatCannotBeWrittenBack) {
     FilesDesk::add(state, 1);
     desk.answer("Save");
     state.newPalette();
+    desk.settle();
     EXPECT_NE(desk.question().text.find("saved to the system colour picker."), std::string::npos);
     desk.settle();
     EXPECT_EQ(FilesDesk::count(desk.folder / "colors/Old.clr"), 2U);

@@ -37,10 +37,11 @@ LibraryFoot::LibraryFoot(Ui& ui, LibraryModel& model, QWidget* parent)
     sync();
 }
 
-QString LibraryFoot::facts() const {
+QString LibraryFoot::facts(bool isShort) const {
     const auto& content = *model_.listing().content;
     if (model_.listing().isSearch && !model_.listing().finds.empty())
-        return worded("Press Enter to open · Alt+Enter opens in a new window");
+        return worded(isShort ? "Press Enter to open"
+                              : "Press Enter to open · Alt+Enter opens in a new window");
     std::size_t palettes = 0;
     qsizetype folders = 0;
     for (const auto& group : content.groups) {
@@ -49,13 +50,14 @@ QString LibraryFoot::facts() const {
         ++folders;
     }
     if (palettes == 0) return {};
+    if (isShort) return worded("%n palette", "%n palettes", static_cast<qsizetype>(palettes));
     return worded("%n palette in ", "%n palettes in ", static_cast<qsizetype>(palettes)) +
            worded("%n folder · read, never changed", "%n folders · read, never changed", folders);
 }
 
 void LibraryFoot::sync() {
     add_->setIcon(ui_.theme.icon("plus", 16, ui_.theme.color(Token::ink), devicePixelRatioF()));
-    setAccessibleDescription(facts());
+    setAccessibleDescription(facts(false));
     layOut();
 }
 
@@ -91,8 +93,11 @@ void LibraryFoot::paintEvent(QPaintEvent*) {
     painter.setFont(font);
     painter.setPen(theme.color(Token::ink3));
     const QRect room(kSide, 0, factsEnd_ - kSide, height());
+    const QFontMetrics metrics(font);
+    const auto whole = facts(false);
+    const auto said = metrics.horizontalAdvance(whole) <= room.width() ? whole : facts(true);
     drawFigures(painter, room, Qt::AlignVCenter | Qt::AlignLeft,
-                QFontMetrics(font).elidedText(facts(), Qt::ElideRight, room.width()));
+                metrics.elidedText(said, Qt::ElideRight, room.width()));
 }
 
 } // namespace tintra

@@ -25,7 +25,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QString facts() const;
+    /// `isShort`: where there is no room for all of it.
+    QString facts(bool isShort) const;
     void sync();
     void layOut();
 

@@ -18,12 +18,15 @@
 #include <QPainter>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace tintra {
 namespace {
 
 constexpr int kHeight = 44, kSecond = 32, kSide = 12, kGap = 8, kToolGap = 4;
 constexpr int kField = 360, kColourField = 202, kLeastField = 180, kFieldHigh = 32, kChip = 16;
+/// What is beside the words in the field.
+constexpr int kFieldSides = 48;
 
 } // namespace
 
@@ -123,11 +126,6 @@ void LibraryTools::syncField() {
     auto font = theme.font(color ? TextStyle::code : TextStyle::body);
     if (color) font.setPixelSize(theme.font(TextStyle::body).pixelSize());
     field_->setFont(font);
-    const auto count = static_cast<qsizetype>(model_.listing().content->palettes.size());
-    field_->setPlaceholderText(count == 0 ? worded("Search palettes, a swatch name, or a colour")
-                                          : worded("Search %n palette, a swatch name, or a colour",
-                                                   "Search %n palettes, a swatch name, or a colour",
-                                                   count));
     mark_->setIcon(theme.icon("search", 16, theme.color(Token::ink), ratio));
     clear_->setIcon(theme.icon("close", 16, theme.color(Token::ink2), ratio));
     clear_->setVisible(!field_->text().isEmpty());
@@ -144,6 +142,18 @@ void LibraryTools::syncField() {
     }
     updateGeometry();
     layOut();
+}
+
+/// As much as the field has room for.
+void LibraryTools::syncPlaceholder() {
+    const auto count = static_cast<qsizetype>(model_.listing().content->palettes.size());
+    auto text = count == 0 ? worded("Search palettes, a swatch name, or a colour")
+                           : worded("Search %n palette, a swatch name, or a colour",
+                                    "Search %n palettes, a swatch name, or a colour", count);
+    const int room = field_->width() - ui_.theme.scaled(kFieldSides);
+    if (QFontMetrics(ui_.theme.font(TextStyle::body)).horizontalAdvance(text) > room)
+        text = worded("Search palettes");
+    field_->setPlaceholderText(text);
 }
 
 void LibraryTools::syncTools() {
@@ -163,7 +173,7 @@ int LibraryTools::lineHeight() const {
 }
 
 QSize LibraryTools::sizeHint() const {
-    return {0, lineHeight() + (hasSecondLine() ? ui_.theme.scaled(kSecond) : 0)};
+    return {0, lineHeight() + linesBelow_ * ui_.theme.scaled(kSecond)};
 }
 
 QSize LibraryTools::minimumSizeHint() const {
@@ -204,6 +214,12 @@ void LibraryTools::layOut() {
     match_->setVisible(readsColour_);
     const QPoint first(kSide + wide + kGap, (lineHeight() - matches.height()) / 2);
     match_->setGeometry(QRect(isNarrow_ ? QPoint(kSide, lineHeight()) : first, matches));
+    syncPlaceholder();
+    const auto said = QFontMetrics(ui_.theme.font(TextStyle::body))
+                          .horizontalAdvance(shown(explanation(model_.match())));
+    const bool isBeside = said <= width() - 2 * kSide - 8 - kGap - matches.width();
+    const int below = !readsColour_ ? 0 : isNarrow_ && !isBeside ? 2 : 1;
+    if (std::exchange(linesBelow_, below) != below) updateGeometry();
     update();
 }
 
@@ -233,15 +249,16 @@ bool LibraryTools::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-void LibraryTools::paintSecondLine(QPainter& painter) const {
+void LibraryTools::paintExplanation(QPainter& painter) const {
     const auto& theme = ui_.theme;
     const auto match = model_.match();
-    const QRectF line(kSide + 8, lineHeight(), width() - 2 * (kSide + 8),
-                      ui_.theme.scaled(kSecond) - 1);
+    const qreal high = theme.scaled(kSecond);
+    const QRectF line(kSide + 8, lineHeight() + (linesBelow_ - 1) * high, width() - 2 * (kSide + 8),
+                      high - 1);
     auto x = line.left();
-    if (isNarrow_)
+    if (isNarrow_ && linesBelow_ == 1)
         x = match_->geometry().right() + kGap;
-    else
+    else if (!isNarrow_)
         x = paintBadge(painter, theme, shown(badge(match)), x, line.center().y(), BadgeFill::no) +
             kGap;
     const auto font = theme.font(TextStyle::body);
@@ -264,7 +281,7 @@ void LibraryTools::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), ui_.theme.color(Token::panel));
-    if (hasSecondLine()) paintSecondLine(painter);
+    if (linesBelow_ > 0) paintExplanation(painter);
 }
 
 } // namespace tintra

@@ -45,8 +45,8 @@ private:
     void syncTools();
     void layOut();
     int lineHeight() const;
-    bool hasSecondLine() const { return readsColour_; }
-    void paintSecondLine(QPainter& painter) const;
+    void syncPlaceholder();
+    void paintExplanation(QPainter& painter) const;
 
     Ui& ui_;
     LibraryModel& model_;
@@ -57,6 +57,7 @@ private:
     ToolButton *direction_ = nullptr, *rescan_ = nullptr, *settings_ = nullptr, *more_ = nullptr;
     bool readsColour_ = false;
     bool isNarrow_ = false; ///< the match stands in the second line
+    int linesBelow_ = 0;    ///< the first
     Subscriptions subscriptions_;
 };
 
