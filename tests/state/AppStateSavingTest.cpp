@@ -169,7 +169,6 @@ TEST(AppStateSaving, KeepsInTheColourPickerWhatCannotBeWrittenBack) {
     state.newPalette();
     desk.settle();
     EXPECT_NE(desk.question().text.find("saved to the system colour picker."), std::string::npos);
-    desk.settle();
     EXPECT_EQ(FilesDesk::count(desk.folder / "colors/Old.clr"), 2U);
     PaletteStore::Entry crayons;
     crayons.name = "Old";
