@@ -56,7 +56,9 @@ def names_and_edits(user, tintra):
 def goes_through_menus(user, tintra):
     user.keys("F10")
     tintra.has_focus("menu item", "File")
-    user.keys("Escape", "Escape")
+    user.keys("Escape")
+    until("the menu closed", lambda: not tintra.live_popups())
+    user.keys("Escape")
     tintra.has_focus("list item", "Amber")
     tintra.misses("menu bar")
 
