@@ -195,7 +195,7 @@ TEST(Keys, GoBackToTheSwatchesWhenTheEditorCloses) {
     EXPECT_EQ(QApplication::focusWidget(), canvas);
 }
 
-// A display that has not heard yet of a menu's end goes on sending it the keys.
+// Keys that are under way when a menu closes still come to it.
 TEST(Keys, OfAMenuThatHasJustClosedAreNotLost) {
     Shown shown;
     auto* canvas = QApplication::focusWidget();

@@ -42,8 +42,8 @@ bool CalledMenuBar::eventFilter(QObject* watched, QEvent* event) {
     const auto* menu = qobject_cast<QMenu*>(watched);
     if (event->type() != QEvent::KeyPress || !menu || menu->isVisible())
         return QMenuBar::eventFilter(watched, event);
-    // Until the display knows that a menu has closed it sends it the keys, which are for the bar,
-    // or for what the bar has gone back to.
+    // A key that was under way when a menu closed (the toolkit asks the accessibility bus about
+    // each) still comes to it: it is for the bar, or for what the bar has gone back to.
     leaveWhenDone();
     if (auto* keyboard = window()->focusWidget()) QCoreApplication::sendEvent(keyboard, event);
     return true;
