@@ -29,7 +29,9 @@ def types_values(user, tintra):
 
 
 def names_and_edits(user, tintra):
-    user.keys("Right", "F2")
+    user.keys("Right")
+    tintra.has_focus("list item", "Orange Pospsicle")
+    user.keys("F2")
     tintra.has_focus("text", "Name of the swatch")
     user.writes("Amber\n")
     tintra.has_focus("list item", "Amber")
