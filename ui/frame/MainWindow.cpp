@@ -157,7 +157,8 @@ bool MainWindow::event(QEvent* event) {
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-    altAlone_ = event->key() == Qt::Key_Alt && !event->isAutoRepeat();
+    // While a screen reader listens, keys come later than the shortcuts that follow them.
+    altAlone_ = event->key() == Qt::Key_Alt && !event->isAutoRepeat() && isActiveWindow();
     if (isOnCanvas() && performCanvasKey(*event, context())) return;
     QWidget::keyPressEvent(event);
 }

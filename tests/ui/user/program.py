@@ -67,18 +67,18 @@ class Program:
         until(f"that the window “{title}” goes", lambda: not any(
             node.name.startswith(title) for node in self.windows()))
 
-    def sees(self, role=None, name=None):
+    def sees(self, role=None, name=None, words=None):
         """The first such thing, once it is shown; a person looks at the front window first."""
         def found():
             windows = sorted(self.windows(), key=lambda window: "active" not in window.states)
             return next((seen for window in windows for seen in window.all(role, name)[:1]), None)
-        return until(lambda: f"{role} “{name}”; shown are:\n{self.everything.picture()}", found)
+        return until(lambda: f"{role} “{words or name}”; shown are:\n{self.everything.picture()}", found)
 
     def misses(self, role=None, name=None):
         until(f"that {role} “{name}” goes", lambda: not self.everything.all(role, name))
 
     def sees_notice(self, text):
-        return self.sees("alert message", lambda name: text in name)
+        return self.sees("alert message", lambda name: text in name, text)
 
     def names(self, role):
         return [name for _, _, its_role, name in self.everything.shown("role", "name")

@@ -28,6 +28,8 @@ class User:
         self.desktop.output("xdotool", *[str(word) for word in words])
 
     def keys(self, *names):
+        """While a screen reader listens, a shortcut overtakes the keys of a canvas before it: what
+        those lead to is waited for before a shortcut is pressed."""
         self.xdotool("key", "--delay", "8", *names)
 
     def presses_key_until(self, key, seen, most=20):

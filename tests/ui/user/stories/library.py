@@ -130,7 +130,9 @@ def works_by_keyboard(user, tintra):
     user.presses("Discard")
     tintra.sees_title("Meadow — Tintra")
     user.goes_to(LIBRARY)
-    user.keys("End", "alt+Return")
+    user.keys("End")
+    tintra.has_focus("tree item", "Dusk")
+    user.keys("alt+Return")
     tintra.sees_title("Dusk — Tintra")
     user.has_in_front("Dusk — Tintra")
     user.keys("ctrl+w")
@@ -149,14 +151,13 @@ def keeps_files(user, tintra, desktop, folder):
     agree(user.reads(folder / "Dawn.clr"), user.reads(folder / "Dusk.clr"), "the copy")
     user.goes_to(LIBRARY)
     user.clicks(palette(tintra, "Dawn"))
-    user.keys("ctrl+BackSpace", "F8")
-    notice = tintra.sees_notice("Dawn.clr")
-    finds(tintra, "palettes", "Meadow", "Harbour", "Dusk")
+    user.keys("ctrl+BackSpace")
     trash = desktop.root / "data" / "Trash" / "files" / "Dawn.clr"
-    assert trash.exists() and not (folder / "Dawn.clr").exists(), "the file in the Trash"
-    user.clicks(notice)
+    until("the file in the Trash", lambda: trash.exists() and not (folder / "Dawn.clr").exists())
+    user.clicks(tintra.sees_notice("Dawn.clr"))
+    until("the file back in its folder", lambda: (folder / "Dawn.clr").exists())
+    assert not trash.exists(), "nothing left in the Trash"
     finds(tintra, "palettes", "Meadow", "Harbour", "Dawn", "Dusk")
-    assert not trash.exists() and (folder / "Dawn.clr").exists(), "the file back in its folder"
     (folder / "Dawn.clr").unlink()
     finds(tintra, "palettes", "Meadow", "Harbour", "Dusk")
 
@@ -174,9 +175,11 @@ def follows_the_folder(user, tintra, desktop, folder):
 
 
 def names_the_folder(user, tintra):
-    for title, words in ("Rename…", "Work"), ("Tag…", "print"):
+    for name, title, words in ("palettes", "Rename…", "Work"), ("Work", "Tag…", "print"):
         user.goes_to(LIBRARY)
-        user.keys("Home", "shift+F10")
+        user.keys("Home")
+        tintra.has_focus("tree item", name)
+        user.keys("shift+F10")
         user.chooses(title)
         tintra.sees("dialog")
         user.writes(f"{words}\n")

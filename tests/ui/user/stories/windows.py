@@ -29,8 +29,10 @@ def finds(tintra, title, *wanted):
           lambda: palettes(tintra, title) == list(wanted))
 
 
-def renames_the_first(user, tintra, name):
-    user.keys("Home", "F2")
+def renames_the_first(user, tintra, was, name):
+    user.keys("Home")
+    tintra.has_focus("list item", was)
+    user.keys("F2")
     tintra.has_focus("text", "Name of the swatch")
     user.writes(f"{name}\n")
     tintra.sees_title(DIRTY)
@@ -43,15 +45,15 @@ def saves_in_both(user, tintra, file):
     tintra.sees_active("Open")
     user.writes(f"{file}\n")
     finds(tintra, CLEAN, ["Sea", "Sand"], ["Sea", "Sand"])
-    renames_the_first(user, tintra, "Ocean")
+    renames_the_first(user, tintra, "Sea", "Ocean")
     user.keys("ctrl+s")
     tintra.sees_notice("Updated from another window’s save")
     finds(tintra, CLEAN, ["Ocean", "Sand"], ["Ocean", "Sand"])
 
     # Unsaved here, and saved there: the one who saves is asked.
-    renames_the_first(user, tintra, "Deep")
+    renames_the_first(user, tintra, "Ocean", "Deep")
     user.goes_to(CLEAN)
-    renames_the_first(user, tintra, "Surf")
+    renames_the_first(user, tintra, "Ocean", "Surf")
     user.keys("ctrl+s")
     finds(tintra, CLEAN, ["Surf", "Sand"])
     user.goes_to(DIRTY)
@@ -99,5 +101,5 @@ def quits(user, tintra):
     finds(user.tintra, "Untitled Palette", ["Chi-Gong"], ["Lattice Green"])
     # And what was linked is linked.
     user.goes_to(CLEAN)
-    renames_the_first(user, user.tintra, "Tide")
+    renames_the_first(user, user.tintra, "Deep", "Tide")
     user.tintra.window("Bench — Tintra").find("list item", "Tide, PALETTE")
