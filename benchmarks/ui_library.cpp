@@ -1,3 +1,4 @@
+#include "benchmarks/OffscreenApplication.h"
 #include "tests/ui/LibraryDesk.h"
 
 #include <benchmark/benchmark.h>
@@ -20,15 +21,6 @@ double millisecondsSince(std::clock_t begin) {
     return 1000.0 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
 }
 
-QApplication& application() {
-    static int count = 1;
-    static char name[] = "bench_ui_library";
-    static char* names[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication app(count, names);
-    return app;
-}
-
 struct FullDesk : test::LibraryDesk {
     FullDesk() {
         for (int i = 0; i < kPalettes; ++i)
@@ -36,7 +28,7 @@ struct FullDesk : test::LibraryDesk {
         watch("Studio");
     }
     static FullDesk& shared() {
-        application();
+        bench::offscreenApplication();
         static FullDesk desk;
         return desk;
     }
