@@ -42,6 +42,7 @@ tour:
 
 bench: packages
 	@scripts/build release
+	@scripts/build release --target benchmarks/all
 	@benchmarks/run build/release
 
 fuzz:
