@@ -109,10 +109,8 @@ function(tintra_test name)
     add_executable(tintra_${name}_tests ${sources})
     target_link_libraries(tintra_${name}_tests PRIVATE tintra_options ${ARGN} GTest::gtest
                                                        GTest::gmock GTest::gtest_main)
-    if(TINTRA_SANITIZE)
-        # Most of what the sanitizers' build takes is optimising test code, which runs but once.
-        target_compile_options(tintra_${name}_tests PRIVATE -O0)
-    endif()
+    # Optimising test code takes the compiler longer than the code then runs.
+    target_compile_options(tintra_${name}_tests PRIVATE -O0)
     set(properties TIMEOUT 300)
     if(TINTRA_TEST_ENVIRONMENT)
         list(APPEND properties ENVIRONMENT ${TINTRA_TEST_ENVIRONMENT})
